@@ -1,0 +1,94 @@
+#include "model/modDecim.h"
+
+#include <charconv>
+
+namespace tarnwick {
+namespace {
+
+constexpr int SignificantDigits = 15;
+
+constexpr double CmPerInch = 2.54;
+constexpr double MmPerInch = 25.4;
+constexpr double MetresPerFoot = 0.3048;
+
+std::string Convert(std::string_view text, double factor, int places) {
+  const double converted = RoundTo(Checked(ReadNumber(text) * factor).OrZero(), places);
+  const std::string shown = DecimalText(converted);
+  return shown.front() == ' ' ? shown.substr(1) : shown;
+}
+
+}  // namespace
+
+Rounding::Rounding(int places) : scale_(std::pow(10.0, places)), lift_(0.05 / scale_) {}
+
+double Rounding::OfHuge(double shifted) const noexcept {
+  const double result = shifted / scale_;
+  return std::isfinite(shifted) && std::isfinite(result) ? result : 0.0;
+}
+
+double RoundTo(double value, int places) { return Rounding(places)(value); }
+
+double ReadNumber(std::string_view text) {
+  std::string digits;  // what belongs to the number, blanks taken out
+  bool point = false, exponent = false;
+  for (const char c : text) {
+    if (c == ' ') continue;
+    const bool sign = c == '-' || c == '+';
+    const char before = digits.empty() ? '\0' : digits.back();
+    if (c >= '0' && c <= '9') {
+      digits += c;
+    } else if (sign && (digits.empty() || before == 'E')) {
+      digits += c;
+    } else if (c == '.' && !point && !exponent) {
+      point = true;
+      digits += c;
+    } else if ((c == 'e' || c == 'E') && !exponent && digits.find_first_of("0123456789") != std::string::npos) {
+      exponent = true;
+      digits += 'E';
+    } else {
+      break;
+    }
+  }
+  const char* first = digits.data();
+  const char* last = first + digits.size();
+  if (first != last && *first == '+') ++first;
+  double value = 0;
+  const auto [end, error] = std::from_chars(first, last, value);
+  return error == std::errc() ? value : 0.0;
+}
+
+void AppendGeneralText(std::string& out, double value) {
+  char buffer[32];
+  // Adding 0 turns -0 into 0: a drawing knows no negative zero.
+  const auto [end, error] =
+      std::to_chars(buffer, buffer + sizeof buffer, value + 0.0, std::chars_format::general, SignificantDigits);
+  for (char* c = buffer; c != end; ++c) {
+    if (*c == 'e') *c = 'E';
+  }
+  out.append(buffer, end);
+}
+
+std::string GeneralText(double value) {
+  std::string text;
+  AppendGeneralText(text, value);
+  return text;
+}
+
+std::string DecimalText(double value) {
+  std::string text = GeneralText(value);
+  if (text.front() != '-') text.insert(0, 1, ' ');
+  if (text.compare(1, 2, "0.") == 0) text.erase(1, 1);
+  return text;
+}
+
+std::string InToCm(std::string_view text, int places) { return Convert(text, CmPerInch, places); }
+std::string InToMm(std::string_view text, int places) { return Convert(text, MmPerInch, places); }
+std::string FtToM(std::string_view text, int places) { return Convert(text, MetresPerFoot, places); }
+std::string In2ToCm2(std::string_view text, int places) { return Convert(text, CmPerInch * CmPerInch, places); }
+
+// The way back multiplies by the inverse, worked out first: dividing instead would differ in the last place.
+std::string CmToIn(std::string_view text, int places) { return Convert(text, 1.0 / CmPerInch, places); }
+std::string MToFt(std::string_view text, int places) { return Convert(text, 1.0 / MetresPerFoot, places); }
+std::string MmToIn(std::string_view text, int places) { return Convert(text, 1.0 / MmPerInch, places); }
+
+}  // namespace tarnwick
