@@ -1,0 +1,66 @@
+# shellcheck shell=bash
+# What ./run and ./check share. The working directory is the top of the tree.
+
+say() { printf '%s\n' "$*"; }
+
+die() {
+  printf '%s\n' "$*" >&2
+  exit 1
+}
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    die "Neither root nor sudo; please run as root: $*"
+  fi
+}
+
+# Packages of the distribution, by what they are for.
+# shellcheck disable=SC2034  # the callers use them
+packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+# shellcheck disable=SC2034
+packages_tests=(libgtest-dev libdxflib-dev python3)
+# shellcheck disable=SC2034
+packages_full=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
+  python3-ezdxf gdal-bin)
+
+is_installed() {
+  [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# Installs those of the named packages that are missing; silent when there are none.
+install_packages() {
+  command -v dpkg-query >/dev/null || die "This script knows Debian packages only. Needed: $*"
+  local missing=() package log
+  for package in "$@"; do
+    is_installed "$package" || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+
+  say "Installing from the distribution: ${missing[*]}"
+  log=$(mktemp)
+  if ! { as_root apt-get -q -o Acquire::Retries=3 update &&
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 \
+      install --no-install-recommends "${missing[@]}"; } >"$log" 2>&1 </dev/null; then
+    cat "$log" >&2
+    rm -f "$log"
+    die "Installing failed: ${missing[*]}"
+  fi
+  rm -f "$log"
+}
+
+# Configures and builds a preset of CMakePresets.json; what cmake says while configuring is shown when it fails.
+build_preset() {
+  local preset=$1 log
+  shift
+  mkdir -p build
+  log=build/$preset-configure.log
+  cmake --preset "$preset" >"$log" 2>&1 || {
+    cat "$log" >&2
+    return 1
+  }
+  cmake --build --preset "$preset" "$@"
+}

@@ -1,0 +1,76 @@
+# shellcheck shell=bash
+# The stages that ./check --full has beyond ./check. A stage is one function; run_full_stages is the list.
+
+fuzz_seconds=${FUZZ_SECONDS:-20} # for each target
+
+run_full_stages() {
+  run_stage "format" stage_format
+  run_stage "shell scripts" stage_shell_scripts
+  run_stage "static checks" stage_static_checks
+  run_stage "tests under sanitizers" stage_sanitizers
+  run_stage "fuzzing" stage_fuzzing
+  run_stage "drawings in other readers" stage_drawings
+  run_stage "benchmarks run" stage_benchmarks
+}
+
+stage_format() {
+  local sources
+  mapfile -t sources < <(find src tests bench fuzz -name '*.h' -o -name '*.cpp' | sort)
+  clang-format-14 --dry-run -Werror "${sources[@]}"
+  say "${#sources[@]} files are formatted"
+}
+
+stage_shell_scripts() {
+  shellcheck --external-sources run check .ci/run scripts/*.sh
+}
+
+stage_static_checks() {
+  local log=build/clang-tidy.log
+  if ! run-clang-tidy-14 -quiet -p build/dev "^$PWD/src/" >"$log" 2>&1; then
+    grep -E '(warning|error):' "$log" | sort -u || cat "$log"
+    return 1
+  fi
+  say "no findings"
+}
+
+stage_sanitizers() {
+  build_preset asan
+  run_tests asan
+}
+
+# Fresh finds go to a folder of their own, so that every run starts from the seeds alone.
+stage_fuzzing() {
+  build_preset fuzz
+  local source name work log targets=(fuzz/*_fuzz.cpp)
+  for source in "${targets[@]}"; do
+    name=$(basename "$source" _fuzz.cpp)
+    work=build/fuzz-work/$name
+    log=$work/log
+    rm -rf "$work"
+    mkdir -p "$work/corpus"
+    if "build/fuzz/fuzz/${name}_fuzz" -max_total_time="$fuzz_seconds" -print_final_stats=1 \
+      -artifact_prefix="$work/" "$work/corpus" "fuzz/corpus/$name" >"$log" 2>&1; then
+      say "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs"
+      count 1 0
+    else
+      tail -n 60 "$log"
+      count 0 1
+    fi
+  done
+}
+
+stage_drawings() {
+  build_preset release
+  local work=build/drawings designs=(samples/*.json)
+  rm -rf "$work"
+  mkdir -p "$work"
+  /usr/bin/python3 -B scripts/validate_dxf.py --cli build/release/src/tarnwick-cli \
+    --reader build/dev/tests/tarnwick_dxf_reader --out-dir "$work" "${designs[@]}"
+  count ${#designs[@]} 0
+}
+
+# Numbers are for a quiet machine and for README.md; here it only has to run.
+stage_benchmarks() {
+  build_preset bench
+  build/bench/bench/tarnwick_bench --benchmark_min_time=0.01
+}
