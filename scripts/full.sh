@@ -14,10 +14,15 @@ run_full_stages() {
 }
 
 stage_format() {
-  local sources
+  local sources source wrong=0
   mapfile -t sources < <(find src tests bench fuzz -name '*.h' -o -name '*.cpp' | sort)
-  clang-format-14 --dry-run -Werror "${sources[@]}"
-  say "${#sources[@]} files are formatted"
+  for source in "${sources[@]}"; do
+    if ! clang-format-14 --dry-run -Werror "$source" 2>/dev/null; then
+      say "$source: not formatted; clang-format-14 -i makes it so"
+      wrong=$((wrong + 1))
+    fi
+  done
+  count $((${#sources[@]} - wrong)) "$wrong"
 }
 
 stage_shell_scripts() {
@@ -27,7 +32,7 @@ stage_shell_scripts() {
 stage_static_checks() {
   local log=build/clang-tidy.log
   if ! run-clang-tidy-14 -quiet -p build/dev "^$PWD/src/" >"$log" 2>&1; then
-    grep -E '(warning|error):' "$log" | sort -u || cat "$log"
+    grep -E '(warning|error):' "$log" | sed 's/\x1b\[[0-9;]*m//g' | sort -u || cat "$log"
     return 1
   fi
   say "no findings"

@@ -22,7 +22,7 @@ run_stage() {
   (
     set -e
     "$function"
-  )
+  ) 2>&1
   status=$?
   set -e
 
