@@ -11,10 +11,8 @@ die() {
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then
     "$@"
-  elif command -v sudo >/dev/null; then
-    sudo "$@"
   else
-    die "Neither root nor sudo; please run as root: $*"
+    sudo "$@"
   fi
 }
 
@@ -40,6 +38,8 @@ install_packages() {
   done
   [ ${#missing[@]} -gt 0 ] || return 0
 
+  [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
+    die "Neither root nor sudo; please install these packages and try again: ${missing[*]}"
   say "Installing from the distribution: ${missing[*]}"
   log=$(mktemp)
   if ! { as_root apt-get -q -o Acquire::Retries=3 update &&
