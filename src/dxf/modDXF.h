@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -11,18 +12,23 @@ namespace tarnwick {
 
 class Messages;
 
-/// The whole text of the drawing file for `list`: header, tables, an empty block section, the entities. Inches, never scaled.
-///
-/// Group code lines carry one blank on either side, lines end with CR LF. nullopt when the file would need more pairs of code
-/// and value than `MemorySize` is an upper bound for (the pairs are counted from 0).
-[[nodiscard]] std::optional<std::string> DxfText(const EntityList& list, const CalculationSettings& settings);
+/// Called now and then during a long piece of work, so that a window can stay alive. May be empty.
+using Yield = std::function<void()>;
 
-/// Writes the drawing to `fileName`. The text is complete before the first byte is written, and an existing regular file is
-/// deleted first, so that no half-written drawing ever reaches a machine.
+/// The whole text of the drawing file for `list`: header, tables, an empty block section, the entities. The
+/// old, minimal kind of file that cutting machines read. Inches, never scaled.
 ///
-/// Reports by itself: "File is two large" when the list does not fit, "Error " and the platform's number when the file cannot be
-/// written. Returns whether the drawing was written.
-bool WriteDxf(const EntityList& list, const std::filesystem::path& fileName, const CalculationSettings& settings,
-              Messages& messages);
+/// A pair of group code and value is two lines: the code with one blank on either side, the value as it
+/// stands; lines end with CR LF. nullopt when the file would need a pair past index MemorySize.
+[[nodiscard]] std::optional<std::string> DxfText(const EntityList& list, const CalculationSettings& settings,
+                                                 const Yield& yield = {});
+
+/// Writes the drawing to `fileName`. The text is complete before the first byte is written, and an existing
+/// regular file is deleted first, so that no half-written drawing reaches a machine.
+///
+/// Reports by itself: "File is two large" when the list does not fit, "Error " and the platform's number when
+/// the file cannot be written. Returns whether the drawing was written.
+bool WriteDxf(const EntityList& list, const std::filesystem::path& fileName,
+              const CalculationSettings& settings, Messages& messages, const Yield& yield = {});
 
 }  // namespace tarnwick

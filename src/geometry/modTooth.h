@@ -8,17 +8,14 @@ namespace tarnwick {
 
 class Messages;
 
-/// From the measures of a design to the drawing of its band.
+/// From the measures of a design to the drawing of its whole band.
 ///
-/// Both change `saw` in place: they derive `Pitch`, `NumTeeth` and `Width`, correct what cannot be cut, silently, and fill in the derived
-/// fields; the user sees the corrected values afterwards. The returned list is empty when the style's measures are not all
-/// there: `Pitch`, `NumTeeth` and `FaceLength` are brought up to date all the same. Nothing fails: a statement that cannot
-/// be worked out is skipped. The few routines that report do so on `messages`.
+/// It changes `saw` in place: it derives `Pitch`, `NumTeeth` and `Width`, corrects what cannot be cut,
+/// silently, and fills in the derived fields; the user sees the corrected values afterwards. The returned
+/// list is empty when the style's measures are not all there: `Pitch`, `NumTeeth` and `FaceLength` are
+/// brought up to date all the same. Nothing fails: a statement that cannot be worked out is skipped. The few
+/// routines that report do so on `messages`.
 
-/// The whole band.
 [[nodiscard]] EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages);
-
-/// One segment of a variable pitch band and one tooth more.
-[[nodiscard]] EntityList CalculateSegment(BandSaw& saw, const CalculationSettings& settings, Messages& messages);
 
 }  // namespace tarnwick

@@ -28,13 +28,14 @@ bool SameGullet(const BandSaw::Gullet& a, const BandSaw::Gullet& b) {
 }
 
 bool SameGeneral(const BandSaw::General& a, const BandSaw::General& b) {
-  return a.TipSize == b.TipSize && a.TipType == b.TipType && a.PlateThick == b.PlateThick && a.Kerf == b.Kerf &&
-         a.SideClear == b.SideClear && a.TopBevel == b.TopBevel && a.Tension == b.Tension &&
-         a.SpareText1 == b.SpareText1 && a.SpareText2 == b.SpareText2 && a.SpareText3 == b.SpareText3 &&
-         a.Quantity == b.Quantity && a.ShaftSpeed == b.ShaftSpeed && a.DepthOfCut == b.DepthOfCut &&
-         a.FeedRate == b.FeedRate && a.WoodType == b.WoodType && a.HorsePower == b.HorsePower &&
-         a.SavedAs == b.SavedAs && a.VariablePitch == b.VariablePitch && a.NumVariables == b.NumVariables &&
-         SameUsed(a.VarPitch, b.VarPitch) && a.VariableDepth == b.VariableDepth && SameUsed(a.VarDepth, b.VarDepth);
+  return a.TipSize == b.TipSize && a.TipType == b.TipType && a.PlateThick == b.PlateThick &&
+         a.Kerf == b.Kerf && a.SideClear == b.SideClear && a.TopBevel == b.TopBevel &&
+         a.Tension == b.Tension && a.SpareText1 == b.SpareText1 && a.SpareText2 == b.SpareText2 &&
+         a.SpareText3 == b.SpareText3 && a.Quantity == b.Quantity && a.ShaftSpeed == b.ShaftSpeed &&
+         a.DepthOfCut == b.DepthOfCut && a.FeedRate == b.FeedRate && a.WoodType == b.WoodType &&
+         a.HorsePower == b.HorsePower && a.SavedAs == b.SavedAs && a.VariablePitch == b.VariablePitch &&
+         a.NumVariables == b.NumVariables && SameUsed(a.VarPitch, b.VarPitch) &&
+         a.VariableDepth == b.VariableDepth && SameUsed(a.VarDepth, b.VarDepth);
 }
 
 bool SameDesign(const BandSaw::Design& a, const BandSaw::Design& b) {
@@ -50,11 +51,11 @@ bool SameMachine(const BandSaw::Machine& a, const BandSaw::Machine& b) {
 }  // namespace
 
 bool SameSaw(const BandSaw& a, const BandSaw& b) {
-  return SameContains(a.ContainsInfo, b.ContainsInfo) && SameTooth(a, b) && SameGullet(a.GulletInfo, b.GulletInfo) &&
-         a.BothEdges == b.BothEdges && SameGeneral(a.GeneralInfo, b.GeneralInfo) &&
-         SameDesign(a.DesignInfo, b.DesignInfo) && SameMachine(a.MachineInfo, b.MachineInfo) &&
-         a.CustomerInfo.CustName == b.CustomerInfo.CustName && a.CustomerInfo.DesignBy == b.CustomerInfo.DesignBy &&
-         a.ImpMetric == b.ImpMetric;
+  return SameContains(a.ContainsInfo, b.ContainsInfo) && SameTooth(a, b) &&
+         SameGullet(a.GulletInfo, b.GulletInfo) && a.BothEdges == b.BothEdges &&
+         SameGeneral(a.GeneralInfo, b.GeneralInfo) && SameDesign(a.DesignInfo, b.DesignInfo) &&
+         SameMachine(a.MachineInfo, b.MachineInfo) && a.CustomerInfo.CustName == b.CustomerInfo.CustName &&
+         a.CustomerInfo.DesignBy == b.CustomerInfo.DesignBy && a.ImpMetric == b.ImpMetric;
 }
 
 void ResetVariablePitch(BandSaw& saw) {
@@ -69,15 +70,24 @@ void ResetVariablePitch(BandSaw& saw) {
 
 const char* ToothStyleName(int style) {
   switch (style) {
-    case SquareBack: return "Square Back";
-    case RoundBack: return "Round Back";
-    case DoubleRadius: return "Double Radius";
-    case TripleRadius: return "Triple Radius";
-    case FlatBottom: return "Flat Bottom";
-    case NarrowStyle: return "Narrow Style";
-    case OShape: return "O Shape";
-    case FrostTooth: return "Frost Tooth";
-    default: return nullptr;
+    case SquareBack:
+      return "Square Back";
+    case RoundBack:
+      return "Round Back";
+    case DoubleRadius:
+      return "Double Radius";
+    case TripleRadius:
+      return "Triple Radius";
+    case FlatBottom:
+      return "Flat Bottom";
+    case NarrowStyle:
+      return "Narrow Style";
+    case OShape:
+      return "O Shape";
+    case FrostTooth:
+      return "Frost Tooth";
+    default:
+      return nullptr;
   }
 }
 

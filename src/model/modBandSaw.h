@@ -8,12 +8,14 @@
 
 namespace tarnwick {
 
-/// A stored yes or no: a 16-bit integer, `True` is -1. Whatever else a file brings counts as set, and keeps its value.
+/// A stored yes or no: a 16-bit integer, `True` is -1. Whatever else a file brings counts as set, and keeps
+/// its value.
 using Flag = std::int16_t;
 inline constexpr Flag True = -1;
 inline constexpr Flag False = 0;
 
-/// Values of `BandSaw::ToothStyle`. 3 is a hole in the numbering: a design may carry it, no tooth comes of it.
+/// Values of `BandSaw::ToothStyle`. 3 is a hole in the numbering: a design may carry it, no tooth comes of
+/// it.
 enum ToothStyleNumber : std::int16_t {
   NoStyle = 0,
   SquareBack = 1,
@@ -33,10 +35,12 @@ enum JoinStyleNumber : std::int16_t { RightAngleJoin = 0, OverlapJoin = 1 };
 using SegmentMeasures = std::array<double, 10>;
 inline constexpr int UsedSegmentMeasures = 7;
 
-/// One blade design: everything that a user enters and everything that the calculation derives. The document itself.
+/// One blade design: everything that a user enters and everything that the calculation derives. The document
+/// itself.
 ///
-/// A plain value, copied whole by assignment. A new design is the all-zero record; 0 means "not set". All measures are
-/// imperial whatever the display shows: lengths in inches unless feet are named, angles in degrees.
+/// A plain value, copied whole by assignment. A new design is the all-zero record; 0 means "not set". All
+/// measures are imperial whatever the display shows: lengths in inches unless feet are named, angles in
+/// degrees.
 struct BandSaw {
   struct Contains {
     Flag General{};  // the general data have been filled in
@@ -105,13 +109,13 @@ struct BandSaw {
     double DepthOfCut{};        // in
     double FeedRate{};          // ft/min
     FixedText<30> WoodType;
-    double HorsePower{};            // hp; derived
-    std::int16_t SavedAs{};         // 2 once written to a file
-    Flag VariablePitch{};           // a segment of teeth of different pitch repeats
-    std::int16_t NumVariables{};    // teeth in a segment, 3 to 7
-    SegmentMeasures VarPitch{};     // in
-    Flag VariableDepth{};           // the teeth of the segment differ in depth too
-    SegmentMeasures VarDepth{};     // in
+    double HorsePower{};          // hp; derived
+    std::int16_t SavedAs{};       // 2 once written to a file
+    Flag VariablePitch{};         // a segment of teeth of different pitch repeats
+    std::int16_t NumVariables{};  // teeth in a segment, 3 to 7
+    SegmentMeasures VarPitch{};   // in
+    Flag VariableDepth{};         // the teeth of the segment differ in depth too
+    SegmentMeasures VarDepth{};   // in
   } GeneralInfo;
 
   struct Design {
@@ -150,12 +154,13 @@ inline constexpr std::size_t RecordImageSize = 3325;
 
 /// Whether two designs count as the same: the one test behind every "has changed" question.
 ///
-/// Numbers exactly, texts byte by byte. Left out on purpose, so that a design that differs only in them is unchanged:
-/// FaceLength and the frost measures, VarPattern, VarArea, MaxFeedRate, the spare fields, elements 8 to 10 of arrays.
-/// The three SpareTexts of GeneralInfo are no such spare fields: they count.
+/// Numbers exactly, texts byte by byte. Left out on purpose, so that a design that differs only in them is
+/// unchanged: FaceLength and the frost measures, VarPattern, VarArea, MaxFeedRate, the spare fields, elements
+/// 8 to 10 of arrays. The three SpareTexts of GeneralInfo are no such spare fields: they count.
 [[nodiscard]] bool SameSaw(const BandSaw& a, const BandSaw& b);
 
-/// Clears all that makes the band a variable one: flags, count, segment length, pattern, the seven used pitches and depths.
+/// Clears all that makes the band a variable one: flags, count, segment length, pattern, the seven used
+/// pitches and depths.
 void ResetVariablePitch(BandSaw& saw);
 
 /// "Square Back" ... "Frost Tooth"; nullptr for a number without a style.

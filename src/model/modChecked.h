@@ -18,24 +18,31 @@ enum class Failure : int {
 /// "Division by zero" and so on; empty for None.
 [[nodiscard]] constexpr std::string_view DescriptionOf(Failure why) {
   switch (why) {
-    case Failure::InvalidCall: return "Invalid procedure call or argument";
-    case Failure::Overflow: return "Overflow";
-    case Failure::Subscript: return "Subscript out of range";
-    case Failure::DivisionByZero: return "Division by zero";
-    case Failure::None: break;
+    case Failure::InvalidCall:
+      return "Invalid procedure call or argument";
+    case Failure::Overflow:
+      return "Overflow";
+    case Failure::Subscript:
+      return "Subscript out of range";
+    case Failure::DivisionByZero:
+      return "Division by zero";
+    case Failure::None:
+      break;
   }
   return {};
 }
 
 /// A number on its way through one statement of the calculation, with the first failure met on the way.
 ///
-/// The calculation never stops on bad measures: a statement that cannot be worked out is skipped, and its target keeps what it
-/// held. So a sum of measures is written as it stands, quotients and roots by `Quotient` and `Root`, and the outcome is
-/// stored by `Let(target) = ...`, which leaves the target alone on failure. NaN alone would not do: arctan(x / 0) and
-/// x / (something infinite) are finite in IEEE arithmetic and failures here.
+/// The calculation never stops on bad measures: a statement that cannot be worked out is skipped, and its
+/// target keeps what it held. So a sum of measures is written as it stands, quotients and roots by `Quotient`
+/// and `Root`, and the outcome is stored by `Let(target) = ...`, which leaves the target alone on failure.
+/// NaN alone would not do: arctan(x / 0) and x / (something infinite) are finite in IEEE arithmetic and
+/// failures here.
 ///
-/// Plain doubles may be added, subtracted and multiplied before they meet a Checked: what overflows is infinite (or NaN) from then
-/// on and is caught where it becomes a Checked. Plain division is not safe in that way and is not used in the calculation.
+/// Plain doubles may be added, subtracted and multiplied before they meet a Checked: what overflows is
+/// infinite (or NaN) from then on and is caught where it becomes a Checked. Plain division is not safe in
+/// that way and is not used in the calculation.
 class Checked {
  public:
   Checked(double value) noexcept  // a number is a statement's simplest expression, so it converts by itself
@@ -82,7 +89,8 @@ Checked Quotient(Checked a, Checked b) noexcept;
 Checked Root(Checked a) noexcept;
 Checked Magnitude(Checked a) noexcept;
 
-/// The left side of a statement: `Let(x) = expression;` stores the number, or leaves x alone when the expression failed.
+/// The left side of a statement: `Let(x) = expression;` stores the number, or leaves x alone when the
+/// expression failed.
 class LetTarget {
  public:
   explicit LetTarget(double& target) noexcept : target_(target) {}
@@ -96,7 +104,8 @@ class LetTarget {
 
 [[nodiscard]] inline LetTarget Let(double& target) noexcept { return LetTarget(target); }
 
-/// The same for a 16-bit field: the number is cut toward zero, and one out of the field's range is an overflow.
+/// The same for a 16-bit field: the number is cut toward zero, and one out of the field's range is an
+/// overflow.
 class LetWhole {
  public:
   explicit LetWhole(std::int16_t& target) noexcept : target_(target) {}

@@ -42,7 +42,8 @@ double ReadNumber(std::string_view text) {
     } else if (c == '.' && !point && !exponent) {
       point = true;
       digits += c;
-    } else if ((c == 'e' || c == 'E') && !exponent && digits.find_first_of("0123456789") != std::string::npos) {
+    } else if ((c == 'e' || c == 'E') && !exponent &&
+               digits.find_first_of("0123456789") != std::string::npos) {
       exponent = true;
       digits += 'E';
     } else {
@@ -60,8 +61,8 @@ double ReadNumber(std::string_view text) {
 void AppendGeneralText(std::string& out, double value) {
   char buffer[32];
   // Adding 0 turns -0 into 0: a drawing knows no negative zero.
-  const auto [end, error] =
-      std::to_chars(buffer, buffer + sizeof buffer, value + 0.0, std::chars_format::general, SignificantDigits);
+  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value + 0.0,
+                                          std::chars_format::general, SignificantDigits);
   for (char* c = buffer; c != end; ++c) {
     if (*c == 'e') *c = 'E';
   }
@@ -84,7 +85,9 @@ std::string DecimalText(double value) {
 std::string InToCm(std::string_view text, int places) { return Convert(text, CmPerInch, places); }
 std::string InToMm(std::string_view text, int places) { return Convert(text, MmPerInch, places); }
 std::string FtToM(std::string_view text, int places) { return Convert(text, MetresPerFoot, places); }
-std::string In2ToCm2(std::string_view text, int places) { return Convert(text, CmPerInch * CmPerInch, places); }
+std::string In2ToCm2(std::string_view text, int places) {
+  return Convert(text, CmPerInch * CmPerInch, places);
+}
 
 // The way back multiplies by the inverse, worked out first: dividing instead would differ in the last place.
 std::string CmToIn(std::string_view text, int places) { return Convert(text, 1.0 / CmPerInch, places); }

@@ -8,7 +8,8 @@
 
 namespace tarnwick {
 
-/// The value of pi everywhere in the system: fifteen digits, not the nearest double. The last digit of a coordinate hangs on it.
+/// The value of pi everywhere in the system: fifteen digits, not the nearest double. The last digit of a
+/// coordinate hangs on it.
 inline constexpr double Pi = 3.14159265358979;
 
 inline constexpr double InchesPerFoot = 12;
@@ -17,9 +18,10 @@ inline constexpr double InchesPerFoot = 12;
 ///
 ///   shifted = (0.05 / 10^places + value) * 10^places,   cut toward zero,   divided by 10^places
 ///
-/// A truncation with a small lift, no rounding to nearest: the twentieth of the last place keeps 1.2299999999 from falling to
-/// 1.22 and does nothing more. Below zero the lift works against the magnitude, so an already rounded negative number
-/// loses one unit of the last place each time: Rounding(6)(-1) is -0.999999. Both are meant; coordinates depend on it.
+/// A truncation with a small lift, no rounding to nearest: the twentieth of the last place keeps 1.2299999999
+/// from falling to 1.22 and does nothing more. Below zero the lift works against the magnitude, so an already
+/// rounded negative number loses one unit of the last place each time: Rounding(6)(-1) is -0.999999. Both are
+/// meant; coordinates depend on it.
 ///
 /// A number too large to be shifted gives 0. The result is never -0.
 class Rounding {
@@ -38,7 +40,8 @@ class Rounding {
   }
 
  private:
-  static constexpr double WholeFrom = 9007199254740992.0;  // 2^53: every double from here on is a whole number
+  static constexpr double WholeFrom =
+      9007199254740992.0;  // 2^53: every double from here on is a whole number
   [[nodiscard]] double OfHuge(double shifted) const noexcept;
 
   double scale_;  // 10 raised to the places
@@ -48,23 +51,26 @@ class Rounding {
 /// `value` by the rounding rule at `places`; see Rounding.
 [[nodiscard]] double RoundTo(double value, int places);
 
-/// Text to number, the one way in the whole system: leading blanks, sign, digits, point and digits, exponent; stops at the first
-/// character that does not fit. Blanks among the digits are passed over. A text without a leading number gives 0, and so does
-/// one whose number is too large for a double.
+/// Text to number, the one way in the whole system: leading blanks, sign, digits, point and digits, exponent;
+/// stops at the first character that does not fit. Blanks among the digits are passed over. A text without a
+/// leading number gives 0, and so does one whose number is too large for a double.
 [[nodiscard]] double ReadNumber(std::string_view text);
 
-/// Shortest general form of a number as the files and texts of the system show it: up to 15 significant digits, no trailing
-/// zeros, no point for a whole number, a zero before the point, exponent form ("1E-05") below 0.0001 and from 1E+15 on.
+/// Shortest general form of a number as the files and texts of the system show it: up to 15 significant
+/// digits, no trailing zeros, no point for a whole number, a zero before the point, exponent form ("1E-05")
+/// below 0.0001 and from 1E+15 on.
 [[nodiscard]] std::string GeneralText(double value);
 
 /// The same, appended to `out`: what the writers of long files use.
 void AppendGeneralText(std::string& out, double value);
 
-/// A plain number to text as fields, boxes and settings show it: a blank (or the minus sign) ahead, no zero before the point: " .125".
+/// A plain number to text as fields, boxes and settings show it: a blank (or the minus sign) ahead, no zero
+/// before the point: " .125".
 [[nodiscard]] std::string DecimalText(double value);
 
-/// Conversions between stored imperial measures and metric figures, text to text, at `places` (DecimalPlaces).
-/// Each reads by ReadNumber, multiplies, rounds, and gives decimal text without the leading blank. An overflow gives "0".
+/// Conversions between stored imperial measures and metric figures, text to text, at `places`
+/// (DecimalPlaces). Each reads by ReadNumber, multiplies, rounds, and gives decimal text without the leading
+/// blank. An overflow gives "0".
 [[nodiscard]] std::string InToCm(std::string_view text, int places);
 [[nodiscard]] std::string InToMm(std::string_view text, int places);
 [[nodiscard]] std::string FtToM(std::string_view text, int places);

@@ -72,9 +72,9 @@ struct EntityList {
   [[nodiscard]] std::size_t Count() const { return Entities.size(); }
 };
 
-/// Appends `source` to `target`. Refused with the message "Increase dxf memory!", `target` untouched, when the merged list would
-/// hold more than MemorySize / 8 entities (eight lines of a DXF file an entity). The target keeps its header, but an empty
-/// target takes over the source's, which travels with its first entity.
+/// Appends `source` to `target`. Refused with the message "Increase dxf memory!", `target` untouched, when
+/// the merged list would hold more than MemorySize / 8 entities (eight lines of a DXF file an entity). The
+/// target keeps its header, but an empty target takes over the source's, which travels with its first entity.
 void AppendEntities(EntityList& target, const EntityList& source, int memorySize, Messages& messages);
 
 }  // namespace tarnwick

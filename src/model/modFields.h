@@ -4,10 +4,11 @@
 
 namespace tarnwick {
 
-/// The field table: calls `visit(name, field)` for every field of the record in the order of its image in a file.
+/// The field table: calls `visit(name, field)` for every field of the record in the order of its image in a
+/// file.
 ///
-/// `name` is the member's path, "GulletInfo.Radius". The one place that knows the order: packing, unpacking, JSON and the
-/// tests all go through it. `Saw` is BandSaw or const BandSaw.
+/// `name` is the member's path, "GulletInfo.Radius". The one place that knows the order: packing, unpacking,
+/// JSON and the tests all go through it. `Saw` is BandSaw or const BandSaw.
 template <class Saw, class Visit>
 void ForEachField(Saw& saw, Visit&& visit) {
   visit("ContainsInfo.General", saw.ContainsInfo.General);

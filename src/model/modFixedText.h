@@ -10,8 +10,9 @@ namespace tarnwick {
 
 /// A text of exactly N bytes, one character a byte, as it lies in a design file.
 ///
-/// A text that was never assigned is N bytes of value 0; an assigned one is left-justified and padded with blanks. The two
-/// are different texts on purpose: every byte counts when designs are compared and when they are saved.
+/// A text that was never assigned is N bytes of value 0; an assigned one is left-justified and padded with
+/// blanks. The two are different texts on purpose: every byte counts when designs are compared and when they
+/// are saved.
 template <std::size_t N>
 struct FixedText {
   std::array<char, N> Bytes{};

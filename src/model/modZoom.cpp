@@ -114,7 +114,8 @@ Extents ComputeExtents(const EntityList& list) {
   Extents box{.MinY = -1, .MinX = 0, .MaxY = 1, .MaxX = 0, .CenterX = 0, .CenterY = 0};
   const auto measure = [&box](const auto& entity) {
     using Kind = std::decay_t<decltype(entity)>;
-    if constexpr (!std::is_same_v<Kind, TextEntity> && !std::is_same_v<Kind, SolidEntity>) Measure(entity, box);
+    if constexpr (!std::is_same_v<Kind, TextEntity> && !std::is_same_v<Kind, SolidEntity>)
+      Measure(entity, box);
   };
   for (const Entity& entity : list.Entities) std::visit(measure, entity);
 

@@ -23,7 +23,8 @@ class Messages {
  public:
   virtual ~Messages() = default;
 
-  /// Shows `box` and waits for the button pressed. Closing the box counts as Cancel where that is offered, else as the default.
+  /// Shows `box` and waits for the button pressed. Closing the box counts as Cancel where that is offered,
+  /// else as the default.
   virtual Button Show(const Box& box) = 0;
 };
 
