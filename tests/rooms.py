@@ -74,7 +74,7 @@ def refuse_foreign(file, name):
         if file.parts[0] == "cli" or rank(file) != WINDOWS:
             return "only windows include Qt"
     elif "/" in name and not name.startswith("sys/") and in_core(file):
-        return "the core includes the standard library alone"
+        return "no file of ours, and the core includes the standard library alone"
     return None
 
 

@@ -81,7 +81,7 @@ class Rooms(unittest.TestCase):
 
     def test_the_core_includes_the_standard_library_alone(self):
         self.refused({"store/modStore.h": ["#include <nlohmann/json.hpp>"]},
-                     "store/modStore.h: nlohmann/json.hpp: the core includes the standard library alone")
+                     "store/modStore.h: nlohmann/json.hpp: no file of ours, and the core includes the standard library alone")
 
     def test_nobody_but_the_tools_includes_the_command_line(self):
         self.refused({"store/Folders.h": ['#include "cli/Commands.h"']},
