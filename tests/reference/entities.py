@@ -3,7 +3,6 @@
 import math
 
 from failing import Failure, Number, RoundTo, ZERO, skip
-from record import Point
 from trig import Distance
 
 PI = 3.14159265358979

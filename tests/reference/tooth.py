@@ -4,10 +4,9 @@ Second computation of the band.  T is the tip, h the hook angle, all coordinates
 """
 
 from failing import Number, RoundTo, ZERO, root, skip
-from record import Point
 from transforms import GulletArea
 from trig import (Adjacent, AngleFromLegs, Direction, DirectionFromCenter, Distance, Leg, MeetLines, OffsetLine,
-                  Opposite, PolarPoint, TanSide, polar)
+                  Opposite, PolarPoint, TanSide)
 
 ONE_ARC = (1, 2, 7)
 
