@@ -123,7 +123,7 @@ void AddEntities(DxfPairs& pairs, const EntityList& list, int colour, const Yiel
   constexpr std::size_t entitiesBetweenYields = 120;  // under a thousand pairs
   AddAll(pairs, {{0, "SECTION"}, {2, "ENTITIES"}});
   const EntityWriter write(pairs, colour);
-  for (std::size_t i = 0; i < list.Count() && pairs.Fits(); ++i) {
+  for (std::size_t i = 0; i < list.Entities.size() && pairs.Fits(); ++i) {
     std::visit(write, list.Entities[i]);
     if (yield && i % entitiesBetweenYields == 0) yield();
   }
@@ -135,7 +135,7 @@ std::optional<std::string> DxfText(const EntityList& list, const CalculationSett
                                    const Yield& yield) {
   constexpr std::size_t bytesOfHead = 1200, bytesPerEntity = 110;
   DxfPairs pairs(settings.MemorySize);
-  pairs.Reserve(bytesOfHead + bytesPerEntity * list.Count());
+  pairs.Reserve(bytesOfHead + bytesPerEntity * list.Entities.size());
   AddHeader(pairs, list.Header);
   AddTables(pairs);
   AddEmptyBlocks(pairs);

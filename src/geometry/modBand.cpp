@@ -41,7 +41,7 @@ void MirrorBandX(const PlaneKit& kit, Teeth& teeth, int last) {
 }
 
 void AddOtherEdge(const PlaneKit& kit, Teeth& teeth, int last) {
-  const auto count = static_cast<std::size_t>(last + 1);
+  const auto count = static_cast<std::size_t>(last) + 1;
   if (last < 0) return;
   teeth.resize(2 * count);
   for (std::size_t i = 0; i < count; ++i) {

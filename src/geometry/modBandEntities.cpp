@@ -6,30 +6,38 @@ namespace {
 
 enum class LineRole { Piece, Outline, LapEnd };
 
-/// Appends pieces that exist: a line whose ends lie apart, an arc with a radius.
+/// Appends pieces that exist: a line whose ends lie apart, an arc with a radius. What finds no room is
+/// counted and lost.
 class PieceList {
  public:
-  PieceList(const PlaneKit& kit, std::vector<Entity>& entities) : kit_(kit), entities_(entities) {}
+  PieceList(const PlaneKit& kit, EntityList& list, std::size_t room) : kit_(kit), list_(list), room_(room) {}
 
   void Add(const ToothLine& line) {
     if (kit_.Distance(line.Start, line.End) > 0) AddLine(line.Start, line.End, LineRole::Piece);
   }
 
   void Add(const ToothArc& arc) {
-    if (arc.Radius > 0) {
-      entities_.emplace_back(ArcEntity{arc.CenterX, arc.CenterY, arc.Radius, arc.StartAngle, arc.EndAngle});
-    }
+    if (arc.Radius > 0) Append(ArcEntity{arc.CenterX, arc.CenterY, arc.Radius, arc.StartAngle, arc.EndAngle});
   }
 
   /// A line whether or not its ends lie apart: those of the outline always stand in the list.
   void AddLine(Point from, Point to, LineRole role) {
-    entities_.emplace_back(
-        LineEntity{from.X, from.Y, to.X, to.Y, role != LineRole::Piece, role == LineRole::LapEnd});
+    Append(LineEntity{from.X, from.Y, to.X, to.Y, role != LineRole::Piece, role == LineRole::LapEnd});
   }
 
  private:
+  template <class Kind>
+  void Append(const Kind& entity) {
+    if (list_.Entities.size() < room_) {
+      list_.Entities.emplace_back(entity);
+    } else {
+      ++list_.Lost;
+    }
+  }
+
   const PlaneKit& kit_;
-  std::vector<Entity>& entities_;
+  EntityList& list_;
+  std::size_t room_;
 };
 
 void AddTooth(PieceList& list, const ToothProfile& tooth) {
@@ -51,12 +59,15 @@ void AddTooth(PieceList& list, const ToothProfile& tooth) {
   list.Add(tooth.TopLine);
 }
 
-Point MovedAlong(Point p, double dx) {
-  Shift(p, dx, 0);
-  return p;
-}
+Point MovedAlong(Point p, double dx) { return {Checked(p.X + dx).OrZero(), p.Y}; }
 
 Point DownToBackEdge(Point p) { return {p.X, 0}; }
+
+/// The join point of the tooth at `index`; (0, 0) for a tooth that a band of fewer than no teeth does not
+/// have.
+Point JoinOf(const Teeth& teeth, int index) {
+  return index < 0 ? Point{} : teeth[static_cast<std::size_t>(index)].JoinPoint;
+}
 
 /// Where the four corners of the band's outline lie: the joins of its two ends, and what stands across from
 /// them.
@@ -65,21 +76,18 @@ struct BandEnds {
   Point Right, RightAcross;
 };
 
-BandEnds EndsOf(const Teeth& teeth, std::size_t last) {
-  const Point left = teeth.front().JoinPoint;
-  if (teeth.front().BothEdges != False) {
-    return {left, teeth[last + 1].JoinPoint, teeth[last].JoinPoint, teeth.back().JoinPoint};
-  }
-  const Point right = teeth[last].JoinPoint;
+BandEnds EndsOf(const Teeth& teeth, int n, bool bothEdges) {
+  const Point left = JoinOf(teeth, 0), right = JoinOf(teeth, n);
+  if (bothEdges) return {left, JoinOf(teeth, n + 1), right, JoinOf(teeth, 2 * n + 1)};
   return {left, DownToBackEdge(left), right, DownToBackEdge(right)};
 }
 
 /// The long outline. The two dotted lines of an overlapped band show its nominal length inside the longer
 /// drawn band.
-void AddBandOutline(PieceList& list, const BandSaw& saw, const BandEnds& ends, bool hasBackEdge) {
+void AddBandOutline(PieceList& list, const BandSaw& saw, const BandEnds& ends, bool bothEdges) {
   list.AddLine(ends.Left, ends.LeftAcross, LineRole::Outline);
   list.AddLine(ends.Right, ends.RightAcross, LineRole::Outline);
-  if (hasBackEdge) list.AddLine({0, 0}, {ends.Right.X, 0}, LineRole::Outline);
+  if (!bothEdges) list.AddLine({0, 0}, {ends.Right.X, 0}, LineRole::Outline);
   if (saw.DesignInfo.JoinStyle == OverlapJoin) {
     const double length = saw.Length * InchesPerFoot;
     list.AddLine(MovedAlong(ends.Left, length), MovedAlong(ends.LeftAcross, length), LineRole::LapEnd);
@@ -89,29 +97,35 @@ void AddBandOutline(PieceList& list, const BandSaw& saw, const BandEnds& ends, b
 
 ListHeader HeaderOf(const PlaneKit& kit, double width, double right) {
   ListHeader header;
-  Let(header.MaxY) = kit.RoundTo(Checked(width));
-  Let(header.MaxX) = kit.RoundTo(Checked(right));
+  header.MaxY = kit.RoundTo(width);
+  header.MaxX = kit.RoundTo(right);
   header.ViewCenterX = kit.RoundTo(header.MaxX * 0.5);
   header.ViewCenterY = kit.RoundTo(header.MaxY * 0.5);
   return header;
 }
 
+/// Room for sixteen pieces a tooth and three more; a list that cannot be sized keeps the two places of a
+/// fresh one.
+std::size_t RoomFor(int teeth) {
+  constexpr int piecesPerTooth = 16, freshRoom = 2;
+  const int lastIndex = teeth * piecesPerTooth + 2;
+  return static_cast<std::size_t>(lastIndex < 0 ? freshRoom : lastIndex + 1);
+}
+
 }  // namespace
 
 EntityList BuildBandEntities(const PlaneKit& kit, const BandSaw& saw, const Teeth& teeth) {
-  EntityList list;
-  PieceList pieces(kit, list.Entities);
-  if (saw.NumTeeth <
-      0) {  // a band that runs backward: the end at its first tooth is all that there is to draw
-    const Point left = teeth.front().JoinPoint;
-    pieces.AddLine(left, DownToBackEdge(left), LineRole::Outline);
-    list.Header = HeaderOf(kit, saw.Width, 0);
-    return list;
-  }
-  for (const ToothProfile& tooth : teeth) AddTooth(pieces, tooth);
+  const int n = saw.NumTeeth;
   const bool bothEdges = teeth.front().BothEdges != False;
-  AddBandOutline(pieces, saw, EndsOf(teeth, static_cast<std::size_t>(saw.NumTeeth)), !bothEdges);
-  list.Header = HeaderOf(kit, saw.Width, teeth.back().JoinPoint.X);
+  const int count = bothEdges ? (n + 1) * 2 : n + 1;
+
+  EntityList list;
+  PieceList pieces(kit, list, RoomFor(count));
+  if (n >= 0) {
+    for (const ToothProfile& tooth : teeth) AddTooth(pieces, tooth);
+  }
+  AddBandOutline(pieces, saw, EndsOf(teeth, n, bothEdges), bothEdges);
+  list.Header = HeaderOf(kit, saw.Width, JoinOf(teeth, count - 1).X);
   return list;
 }
 

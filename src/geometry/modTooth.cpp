@@ -46,11 +46,11 @@ void SettleWidth(BandSaw& saw) {
 
 EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages) {
   const PlaneKit kit(settings.DecimalPlaces);
-  const bool hasRoomForTeeth = saw.NumTeeth >= 0;
+  if (saw.NumTeeth < 0) return {};  // no room can be made for such teeth, and nothing is touched
   saw.GulletInfo.FaceLength = 0;
   const bool complete = IsComplete(saw);
   SettlePitch(saw, kit);
-  if (!complete || !hasRoomForTeeth) return {};
+  if (!complete) return {};
   SettleWidth(saw);
 
   Teeth teeth(1);

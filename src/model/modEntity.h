@@ -68,8 +68,10 @@ struct ListHeader {
 struct EntityList {
   ListHeader Header;
   std::vector<Entity> Entities;
+  std::size_t Lost{};  // entities that found no room in a list sized for no teeth: counted, never drawn
 
-  [[nodiscard]] std::size_t Count() const { return Entities.size(); }
+  /// What a builder's running index came to.
+  [[nodiscard]] std::size_t Count() const { return Entities.size() + Lost; }
 };
 
 /// Appends `source` to `target`. Refused with the message "Increase dxf memory!", `target` untouched, when
