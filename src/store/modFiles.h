@@ -1,19 +1,30 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
 
 namespace tarnwick {
 
-/// Whether `path` names an existing file of any kind (a folder is none).
-[[nodiscard]] bool FileExists(const std::filesystem::path& path);
+/// Whether `path` can be opened for reading. Any failure gives false.
+[[nodiscard]] bool FileExists(const std::filesystem::path& path) noexcept;
 
-/// Puts `bytes` into a file of their own: an existing regular file is deleted first, then the file is made,
-/// written and closed. Nothing but a regular file is ever deleted; a device or a pipe is written into. There
-/// is no temporary file and no backup: after a failure there is no file, or what could be written of it.
-/// @return the first failure, the platform's own number and words; nothing when all bytes are out, the last
-/// flush included
+/// Bytes of a file, or why there are none.
+struct FileBytes {
+  std::error_code Error;  // of opening or reading; Bytes is empty then
+  std::string Bytes;
+};
+
+/// Reads a file from its start, `most` bytes at most, so that an endless device or a huge file does no harm.
+[[nodiscard]] FileBytes ReadFile(const std::filesystem::path& path, std::size_t most);
+
+/// Puts `bytes` into the file `path`, in place of what it held.
+///
+/// An existing regular file is deleted first. Nothing else ever is: a device, a pipe or a link is written
+/// into. There is no backup: after a failure no file is left.
+/// @return the failure with the platform's own number and words; none when every byte has arrived
 [[nodiscard]] std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace tarnwick
