@@ -8,7 +8,8 @@ Reads designs from standard input, one JSON object a line:
 
 and writes what comes of each, one line each: the record afterwards, the list's header, its extents, the messages,
 the entities, and the SHA-256 of the drawing file's bytes (null where the file would be too large).  With `--files`
-there are two keys more: the drawing file itself under "dxf", and the record's own file in hex under "bsw".
+there are two keys more: the drawing file itself under "dxf", and the record's own file in hex under "bsw".  With
+`--worked` each line is the design itself with what comes of it under "expect": a worked band.
 """
 
 import hashlib
@@ -66,10 +67,14 @@ def computed(design, files=False):
 
 
 def main():
-    files = "--files" in sys.argv[1:]
+    files, worked = "--files" in sys.argv[1:], "--worked" in sys.argv[1:]
     for line in sys.stdin:
         if line.strip():
-            print(json.dumps(computed(json.loads(line), files), separators=(",", ":")), flush=True)
+            design = json.loads(line)
+            result = computed(design, files)
+            if worked:
+                result = {**design, "expect": result}
+            print(json.dumps(result, separators=(",", ":")), flush=True)
 
 
 if __name__ == "__main__":
