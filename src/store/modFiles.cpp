@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <memory>
 #include <utility>
 
@@ -54,23 +53,33 @@ std::error_code WriteAndClose(OpenFile file, std::string_view bytes) {
 
 }  // namespace
 
-bool FileExists(const std::filesystem::path& path) noexcept { return Open(path, Access::Read) != nullptr; }
+bool FileExists(const std::filesystem::path& path) noexcept {
+  using std::filesystem::file_type;
+  std::error_code ignored;
+  const file_type type = std::filesystem::status(path, ignored).type();
+  return type != file_type::directory && type != file_type::fifo && Open(path, Access::Read) != nullptr;
+}
 
 FileBytes ReadFile(const std::filesystem::path& path, std::size_t most) {
-  constexpr std::size_t chunk = 65536;
   errno = 0;
   const OpenFile file = Open(path, Access::Read);
   if (!file) return {LastError(), {}};
+  return ReadStream(file.get(), most);
+}
+
+FileBytes ReadStream(std::FILE* stream, std::size_t most) {
+  constexpr std::size_t chunk = 65536;
+  errno = 0;
   std::string bytes;
   while (bytes.size() < most) {
     const std::size_t have = bytes.size();
     const std::size_t wanted = std::min(chunk, most - have);
     bytes.resize(have + wanted);
-    const std::size_t got = std::fread(bytes.data() + have, 1, wanted, file.get());
+    const std::size_t got = std::fread(bytes.data() + have, 1, wanted, stream);
     bytes.resize(have + got);
     if (got < wanted) break;
   }
-  if (std::ferror(file.get()) != 0) return {LastError(), {}};
+  if (std::ferror(stream) != 0) return {LastError(), {}};
   return {{}, std::move(bytes)};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,7 +9,8 @@
 
 namespace tarnwick {
 
-/// Whether `path` can be opened for reading. Any failure gives false.
+/// Whether `path` can be opened for reading. Any failure gives false, and so does a folder, or a pipe, which
+/// would keep the caller waiting for its writer.
 [[nodiscard]] bool FileExists(const std::filesystem::path& path) noexcept;
 
 /// Bytes of a file, or why there are none.
@@ -19,6 +21,9 @@ struct FileBytes {
 
 /// Reads a file from its start, `most` bytes at most, so that an endless device or a huge file does no harm.
 [[nodiscard]] FileBytes ReadFile(const std::filesystem::path& path, std::size_t most);
+
+/// The same for a stream that is open already, from where it stands. It stays open.
+[[nodiscard]] FileBytes ReadStream(std::FILE* stream, std::size_t most);
 
 /// Puts `bytes` into the file `path`, in place of what it held.
 ///
