@@ -61,6 +61,8 @@ std::string BandSawText(const BandSaw& saw) {
   return text;
 }
 
+void MarkSaved(BandSaw& saw) { saw.GeneralInfo.SavedAs = SavedInThisFormat; }
+
 bool OpenBandSaw(BandSaw& saw, const std::filesystem::path& path, Messages& messages) {
   const FileBytes file = ReadFile(path, BandSawFileSize);
   if (file.Error) return false;
@@ -71,7 +73,7 @@ bool OpenBandSaw(BandSaw& saw, const std::filesystem::path& path, Messages& mess
 }
 
 std::error_code SaveBandSaw(BandSaw& saw, const std::filesystem::path& path) {
-  saw.GeneralInfo.SavedAs = SavedInThisFormat;
+  MarkSaved(saw);
   return WriteWholeFile(path, BandSawText(saw));
 }
 

@@ -41,13 +41,16 @@ struct BandSawBytes {
 /// The bytes of a band saw file that holds `saw` as it stands.
 [[nodiscard]] std::string BandSawText(const BandSaw& saw);
 
+/// What a save does to the design itself: `SavedAs` becomes 2, the number of this kind of file.
+void MarkSaved(BandSaw& saw);
+
 /// Reads the design file `path` into `saw` and shows what there is to be told. An incomplete file is taken,
 /// with a message, so that a damaged design is shown rather than lost. False with `saw` untouched when the
 /// file cannot be read or is no band saw file that this version knows.
 [[nodiscard]] bool OpenBandSaw(BandSaw& saw, const std::filesystem::path& path, Messages& messages);
 
-/// Writes `saw` to the file `path`, in place of an older file. `SavedAs` becomes 2 first, so that the design
-/// at hand and the one in the file agree. There is no backup: after a failure no file is left.
+/// Writes `saw` to the file `path`, in place of an older file. It is marked as saved first, so that the
+/// design at hand and the one in the file agree. There is no backup: after a failure no file is left.
 /// @return the failure, for the caller to report
 [[nodiscard]] std::error_code SaveBandSaw(BandSaw& saw, const std::filesystem::path& path);
 

@@ -1,0 +1,134 @@
+#include "cli/Commands.h"
+
+#include <exception>
+#include <functional>
+#include <utility>
+
+#include "cli/Calculation.h"
+#include "cli/JsonText.h"
+#include "cli/JsonWriter.h"
+#include "cli/Output.h"
+#include "cli/Streams.h"
+#include "dxf/modDXF.h"
+#include "model/modZoom.h"
+#include "store/modSave.h"
+
+namespace tarnwick::cli {
+namespace {
+
+Scope ScopeOf(const Options& options) { return options.Segment ? Scope::Segment : Scope::WholeBand; }
+
+/// Messages of reading and calculating that have no place in the output; they are no failure.
+void TellNotes(const std::string& name, const Design& design) {
+  for (const std::string& note : design.Notes) Tell(name, note);
+}
+
+Problem WriteToStandardOutput(std::string_view bytes) {
+  return WriteProblem("standard output", WriteStandardOutput(bytes));
+}
+
+Problem PrintJson(const Options& options, const std::string& name) {
+  Design design = ReadDesign(name);
+  EntityList drawing;
+  if (!options.WithoutCalculation) drawing = Calculate(design, ScopeOf(options), options.Settings);
+  if (design.Failed) return design.Failed;
+
+  std::string line = R"({"file":)";
+  AppendString(line, name);
+  line += R"(,"saw":)";
+  AppendRecordJson(line, design.Saw);
+  if (!options.WithoutCalculation) {
+    line += R"(,"header":)";
+    AppendHeaderJson(line, drawing);
+    line += R"(,"extents":)";
+    AppendExtentsJson(line, ComputeExtents(drawing));
+  }
+  line += R"(,"messages":)";
+  AppendMessagesJson(line, design.Notes);
+  if (options.WithEntities && !options.WithoutCalculation) {
+    line += R"(,"entities":)";
+    AppendEntitiesJson(line, drawing);
+  }
+  line += "}\n";
+  return WriteToStandardOutput(line);
+}
+
+Problem WriteDrawing(const Options& options, Output& output, const std::string& name) {
+  if (Problem problem = output.Claim(name)) return problem;
+  Design design = ReadDesign(name);
+  const EntityList drawing = Calculate(design, ScopeOf(options), options.Settings);
+  if (design.Failed) return design.Failed;
+  TellNotes(name, design);
+  const std::optional<std::string> text = DxfText(drawing, options.Settings);
+  if (!text) return "File is two large";  // spelt so in the window too
+  if (output.IsStandardOutput()) return WriteToStandardOutput(*text);
+  const std::filesystem::path path = output.PathOf(name);
+  return WriteProblem(path, WriteWholeFile(path, *text));
+}
+
+/// A calculated design is saved as the window saves it; without a calculation every byte is the user's own.
+Problem WriteDesign(const Options& options, Output& output, const std::string& name) {
+  if (Problem problem = output.Claim(name)) return problem;
+  Design design = ReadDesign(name);
+  if (options.WithCalculation) {
+    (void)Calculate(design, Scope::WholeBand, options.Settings);
+    MarkSaved(design.Saw);
+  }
+  if (design.Failed) return design.Failed;
+  TellNotes(name, design);
+  const std::string bytes = BandSawText(design.Saw);
+  if (output.IsStandardOutput()) return WriteToStandardOutput(bytes);
+  const std::filesystem::path path = output.PathOf(name);
+  return WriteProblem(path, WriteWholeFile(path, bytes));
+}
+
+/// Runs `work` on each design; no failure of one keeps the next from its turn.
+ExitCode ForEachDesign(const Options& options, const std::function<Problem(const std::string&)>& work) {
+  ExitCode outcome = ExitCode::AllDone;
+  for (const std::string& name : options.Designs) {
+    Problem problem;
+    try {
+      problem = work(name);
+    } catch (const std::exception& why) {  // out of memory, or a name that is no path
+      problem = why.what();
+    }
+    if (!problem) continue;
+    Tell(name, *problem);
+    outcome = ExitCode::SomeDesignFailed;
+  }
+  return outcome;
+}
+
+}  // namespace
+
+ExitCode RunCommand(const Options& options) {
+  switch (options.Asked) {
+    case Command::Json:
+      return ForEachDesign(options, [&](const std::string& name) { return PrintJson(options, name); });
+    case Command::Dxf: {
+      Output output(options, ".dxf");
+      return ForEachDesign(options,
+                           [&](const std::string& name) { return WriteDrawing(options, output, name); });
+    }
+    case Command::Bsw: {
+      Output output(options, ".bsw");
+      return ForEachDesign(options,
+                           [&](const std::string& name) { return WriteDesign(options, output, name); });
+    }
+  }
+  return ExitCode::WrongUsage;
+}
+
+int RunTool(int argc, const char* const* argv) noexcept {
+  ExitCode outcome = ExitCode::SomeDesignFailed;
+  try {
+    const std::variant<Options, ExitCode> asked = ParseOptions(argc, argv);
+    const Options* options = std::get_if<Options>(&asked);
+    outcome = options != nullptr ? RunCommand(*options) : std::get<ExitCode>(asked);
+  } catch (const std::exception& why) {
+    Tell("stopped", why.what());
+  }
+  return static_cast<int>(outcome);
+}
+
+}  // namespace tarnwick::cli

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/ExitCode.h"
+#include "model/modSettings.h"
+
+namespace tarnwick::cli {
+
+enum class Command { Json, Dxf, Bsw };
+
+/// Name of a design or an output that stands for standard input or output.
+inline constexpr const char* StandardStream = "-";
+
+/// What the command line asks for.
+struct Options {
+  Command Asked{};
+  std::vector<std::string> Designs;  // as given, in the order given; one at least
+  CalculationSettings Settings;
+  bool DefaultSettings{};  // start from the defaults, whatever the user has set
+
+  bool WithEntities{};        // json: the drawing list too
+  bool WithoutCalculation{};  // json: the record as read
+  bool WithCalculation{};     // bsw: the record as calculated
+  bool Segment{};             // one segment of a variable band in place of the whole band
+
+  // dxf and bsw: one of the two is given
+  std::string OutputFile;    // of the one design; "-" is standard output
+  std::string OutputFolder;  // of all designs, each under its own name
+};
+
+/// Reads the command line. When there is nothing to do but leave (help, version, wrong usage) it has said so
+/// on standard output or standard error, and answers with the exit code.
+[[nodiscard]] std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv);
+
+}  // namespace tarnwick::cli
