@@ -1,6 +1,7 @@
 #include "geometry/modTooth.h"
 
 #include "geometry/modBand.h"
+#include "geometry/modPitch.h"
 #include "geometry/modToothFamily.h"
 #include "geometry/modToothMoves.h"
 #include "geometry/modToothRounds.h"
@@ -12,11 +13,6 @@ namespace {
 bool IsComplete(const BandSaw& saw) {
   const ToothFamily* family = FamilyOf(saw.ToothStyle);
   return family != nullptr ? family->IsComplete(saw.GulletInfo) : saw.GulletInfo.Radius > 0;
-}
-
-/// Inches; 0 when there are no teeth to share the length.
-double PitchFromLength(const PlaneKit& kit, double length, int teeth) {
-  return kit.RoundTo(Quotient(length * InchesPerFoot, teeth)).OrZero();
 }
 
 /// The band length always wins: a typed pitch becomes the nearest one that divides the band into whole teeth.
