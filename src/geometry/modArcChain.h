@@ -4,13 +4,16 @@
 
 namespace tarnwick {
 
-// Gullets that are a chain of tangent arcs from the face into the back: Double Radius and Triple Radius. The Frost tooth hangs the same
-// chains below its notch. The routines correct the radii against each other, and the gullet width against them, in the record.
+// Gullets that are a chain of tangent arcs from the face into the back: Double Radius and Triple Radius. The
+// Frost tooth hangs the same chains below its notch. The routines correct the radii against each other, and
+// the gullet width against them, in the record.
 
-/// A small arc at the face and a large one that leads into the back. The second may be turned about the first to hit the width.
+/// A small arc at the face and a large one that leads into the back. The second may be turned about the first
+/// to hit the width.
 void PlaceDoubleRadius(ToothWork& work);
 
-/// A small arc, a large one and a third that leads into the back: the triangle of their three centres gives the large one's place.
+/// A small arc, a large one and a third that leads into the back: the triangle of their three centres gives
+/// the large one's place.
 void PlaceTripleRadius(ToothWork& work);
 
 /// Depth below the tip of an arc of the chain: tip height - CenterY + its radius.

@@ -12,7 +12,8 @@ void PlaceFlatBottom(ToothWork& work);
 /// Lowers arcs and floor to the depth asked for.
 void ApplyFlatBottomDepth(ToothWork& work);
 
-/// The chord of the second arc's figure runs from the end of the first arc, over the flat: longer than the arc's own, and meant.
+/// The chord of the second arc's figure runs from the end of the first arc, over the flat: longer than the
+/// arc's own, and meant.
 [[nodiscard]] double AddFlatBottomFigures(const ToothWork& work, double area);
 
 }  // namespace tarnwick

@@ -45,7 +45,8 @@ void PlaceNotchArc(ToothWork& work) {
   arc.EndAngle = Need(gullet.FrostAngle + 270);
 }
 
-/// The floor, long enough to pass the face that resumes behind the notch, and that face through the notch's width.
+/// The floor, long enough to pass the face that resumes behind the notch, and that face through the notch's
+/// width.
 void PlaceNotchFloor(ToothWork& work) {
   const BandSaw::Gullet& gullet = work.Saw.GulletInfo;
   const double h = work.Hook(), r = gullet.FrostRadius;
@@ -71,7 +72,8 @@ void PlaceNotchFloor(ToothWork& work) {
   floor.End = drop.Start = drop.End = faceCopy.End;
 }
 
-/// The floor has turned back: the arc then ends where the face behind the notch meets it, and there is no floor.
+/// The floor has turned back: the arc then ends where the face behind the notch meets it, and there is no
+/// floor.
 void LeaveOutFloor(ToothWork& work) {
   BandSaw::Gullet& gullet = work.Saw.GulletInfo;
   const Rounding& round = work.Kit.RoundTo;

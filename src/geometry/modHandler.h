@@ -7,8 +7,9 @@
 
 namespace tarnwick {
 
-// Some routines do not skip a failing statement but stop at it, and say so. They write `x = Need(expression)` where the others write
-// `Let(x) = expression`, and run under HandleFailure. What they placed before the failure stays.
+// Some routines do not skip a failing statement but stop at it, and say so. They write `x = Need(expression)`
+// where the others write `Let(x) = expression`, and run under HandleFailure. What they placed before the
+// failure stays.
 
 /// A statement's failure on its way to the handler of its routine. It never leaves HandleFailure.
 struct StatementFailed {
@@ -21,7 +22,8 @@ struct StatementFailed {
   return outcome.OrZero();
 }
 
-/// Runs `routine`; a failure that stops it goes to `report` as its number and description. True when it came to its end.
+/// Runs `routine`; a failure that stops it goes to `report` as its number and description. True when it came
+/// to its end.
 template <class Routine, class Report>
 bool HandleFailure(Routine routine, Report report) {
   try {
@@ -37,7 +39,8 @@ bool HandleFailure(Routine routine, Report report) {
 template <class Routine>
 void PlaceOrReport(Messages& say, Routine routine) {
   HandleFailure(routine, [&say](Failure why) {
-    say.Show({.Text = std::string(DescriptionOf(why)) + "\nError Number = " + std::to_string(static_cast<int>(why))});
+    say.Show({.Text = std::string(DescriptionOf(why)) +
+                      "\nError Number = " + std::to_string(static_cast<int>(why))});
   });
 }
 

@@ -23,7 +23,9 @@ const ToothArc& LastIsSecondArc(const ToothProfile& tooth) { return tooth.Second
 const ToothArc& LastIsThirdArc(const ToothProfile& tooth) { return tooth.ThirdArc; }
 
 void FromGulletArc(ToothWork& work) { PlaceBackLine(work, work.Tooth.GulletArc, work.Saw.GulletInfo.Radius); }
-void FromSecondArc(ToothWork& work) { PlaceBackLine(work, work.Tooth.SecondArc, work.Saw.GulletInfo.Radius2); }
+void FromSecondArc(ToothWork& work) {
+  PlaceBackLine(work, work.Tooth.SecondArc, work.Saw.GulletInfo.Radius2);
+}
 void FromThirdArc(ToothWork& work) { PlaceBackLine(work, work.Tooth.ThirdArc, work.Saw.GulletInfo.Radius3); }
 
 constexpr ToothBack SharpFromGullet{LastIsGulletArc, FromGulletArc, false};
@@ -66,15 +68,24 @@ constexpr ToothFamily FrostToothFamily{
 
 const ToothFamily* FamilyOf(int toothStyle) {
   switch (toothStyle) {
-    case SquareBack: return &SquareBackTooth;
-    case RoundBack: return &RoundBackTooth;
-    case DoubleRadius: return &DoubleRadiusTooth;
-    case TripleRadius: return &TripleRadiusTooth;
-    case FlatBottom: return &FlatBottomTooth;
-    case NarrowStyle: return &NarrowTooth;
-    case OShape: return &OShapeTooth;
-    case FrostTooth: return &FrostToothFamily;
-    default: return nullptr;
+    case SquareBack:
+      return &SquareBackTooth;
+    case RoundBack:
+      return &RoundBackTooth;
+    case DoubleRadius:
+      return &DoubleRadiusTooth;
+    case TripleRadius:
+      return &TripleRadiusTooth;
+    case FlatBottom:
+      return &FlatBottomTooth;
+    case NarrowStyle:
+      return &NarrowTooth;
+    case OShape:
+      return &OShapeTooth;
+    case FrostTooth:
+      return &FrostToothFamily;
+    default:
+      return nullptr;
   }
 }
 

@@ -41,7 +41,8 @@ struct ToothFamily {
   void (*ApplyDepth)(ToothWork& work);
   /// How the tooth rises to its top; nullptr for the styles that have no back.
   const ToothBack* Back;
-  /// Without a back: lays the top from the next tip to the gullet, and takes the clearance angle from it. Else nullptr.
+  /// Without a back: lays the top from the next tip to the gullet, and takes the clearance angle from it.
+  /// Else nullptr.
   void (*CloseWithoutBack)(ToothWork& work);
   /// Adds the figures of the gullet, in their order, to the area of the figure between face and back.
   double (*AddFigures)(const ToothWork& work, double area);
