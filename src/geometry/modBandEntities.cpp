@@ -1,44 +1,9 @@
 #include "geometry/modBand.h"
 #include "geometry/modJoin.h"
+#include "geometry/modPieceList.h"
 
 namespace tarnwick {
 namespace {
-
-enum class LineRole { Piece, Outline, LapEnd };
-
-/// Appends pieces that exist: a line whose ends lie apart, an arc with a radius. What finds no room is
-/// counted and lost.
-class PieceList {
- public:
-  PieceList(const PlaneKit& kit, EntityList& list, std::size_t room) : kit_(kit), list_(list), room_(room) {}
-
-  void Add(const ToothLine& line) {
-    if (kit_.Distance(line.Start, line.End) > 0) AddLine(line.Start, line.End, LineRole::Piece);
-  }
-
-  void Add(const ToothArc& arc) {
-    if (arc.Radius > 0) Append(ArcEntity{arc.CenterX, arc.CenterY, arc.Radius, arc.StartAngle, arc.EndAngle});
-  }
-
-  /// A line whether or not its ends lie apart: those of the outline always stand in the list.
-  void AddLine(Point from, Point to, LineRole role) {
-    Append(LineEntity{from.X, from.Y, to.X, to.Y, role != LineRole::Piece, role == LineRole::LapEnd});
-  }
-
- private:
-  template <class Kind>
-  void Append(const Kind& entity) {
-    if (list_.Entities.size() < room_) {
-      list_.Entities.emplace_back(entity);
-    } else {
-      ++list_.Lost;
-    }
-  }
-
-  const PlaneKit& kit_;
-  EntityList& list_;
-  std::size_t room_;
-};
 
 void AddTooth(PieceList& list, const ToothProfile& tooth) {
   list.Add(tooth.FaceLine);
@@ -104,14 +69,6 @@ ListHeader HeaderOf(const PlaneKit& kit, double width, double right) {
   return header;
 }
 
-/// Room for sixteen pieces a tooth and three more; a list that cannot be sized keeps the two places of a
-/// fresh one.
-std::size_t RoomFor(int teeth) {
-  constexpr int piecesPerTooth = 16, freshRoom = 2;
-  const int lastIndex = teeth * piecesPerTooth + 2;
-  return static_cast<std::size_t>(lastIndex < 0 ? freshRoom : lastIndex + 1);
-}
-
 }  // namespace
 
 EntityList BuildBandEntities(const PlaneKit& kit, const BandSaw& saw, const Teeth& teeth) {
@@ -119,8 +76,9 @@ EntityList BuildBandEntities(const PlaneKit& kit, const BandSaw& saw, const Teet
   const bool bothEdges = teeth.front().BothEdges != False;
   const int count = bothEdges ? (n + 1) * 2 : n + 1;
 
+  constexpr int piecesPerTooth = 16;
   EntityList list;
-  PieceList pieces(kit, list, RoomFor(count));
+  PieceList pieces(kit, list, RoomFor(count, piecesPerTooth));
   if (n >= 0) {
     for (const ToothProfile& tooth : teeth) AddTooth(pieces, tooth);
   }

@@ -6,9 +6,18 @@ namespace tarnwick {
 
 /// Turn of an arc from its start to its end, degrees.
 [[nodiscard]] double Sweep(const ToothArc& arc);
+[[nodiscard]] Point StartOf(const ToothArc& arc);
+[[nodiscard]] Point EndOf(const ToothArc& arc);
 
-/// The gullet area of a finished outline, by adding figures; into GulletInfo.Area, the tooth's Area, and, for
-/// the part below the seat that works, GulletInfo.AreaBelowTip (at least three tenths of the whole).
+/// Area between `arc` and a chord that is taken from `start` to `end`, whatever the arc's own ends are.
+[[nodiscard]] double AreaAt(const ToothWork& work, const ToothArc& arc, Point start, Point end);
+
+/// The gullet area of a finished outline, by adding figures: between face and back, and those of the style.
+/// In², unrounded.
+[[nodiscard]] double OutlineArea(const ToothWork& work);
+
+/// OutlineArea into GulletInfo.Area and the tooth's Area, and, for the part below the seat that works,
+/// GulletInfo.AreaBelowTip (at least three tenths of the whole).
 ///
 /// It is worked out before a back radius rounds the corner, and is not changed by that.
 void GulletArea(ToothWork& work);

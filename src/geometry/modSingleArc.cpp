@@ -66,9 +66,9 @@ void ApplySingleArcDepth(ToothWork& work) {
   if (missing < 0) RaiseArc(work, std::abs(missing));
 }
 
-double SingleArcArea(const ToothWork& work) {
-  const ToothArc& arc = work.Tooth.GulletArc;
-  return work.Kit.SegmentArea(work.Tooth.DropLine.End, work.Tooth.BackLine.Start, arc.Radius, Sweep(arc));
+double AddSingleArcFigure(const ToothWork& work, double area) {
+  const ToothProfile& tooth = work.Tooth;
+  return area + AreaAt(work, tooth.GulletArc, tooth.DropLine.End, tooth.BackLine.Start);
 }
 
 }  // namespace tarnwick

@@ -26,7 +26,6 @@ void PlaceSingleArcAndDepth(ToothWork& work);
 /// up and sideways so that its circle still goes through the seat's end.
 void ApplySingleArcDepth(ToothWork& work);
 
-/// The figure between the arc and its chord, which the gullet area adds.
-[[nodiscard]] double SingleArcArea(const ToothWork& work);
+[[nodiscard]] double AddSingleArcFigure(const ToothWork& work, double area);
 
 }  // namespace tarnwick

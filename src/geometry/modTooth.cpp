@@ -1,9 +1,11 @@
 #include "geometry/modTooth.h"
 
 #include "geometry/modBand.h"
+#include "geometry/modPitch.h"
 #include "geometry/modToothFamily.h"
 #include "geometry/modToothMoves.h"
 #include "geometry/modToothRounds.h"
+#include "variable/modVariable.h"
 
 namespace tarnwick {
 namespace {
@@ -12,11 +14,6 @@ namespace {
 bool IsComplete(const BandSaw& saw) {
   const ToothFamily* family = FamilyOf(saw.ToothStyle);
   return family != nullptr ? family->IsComplete(saw.GulletInfo) : saw.GulletInfo.Radius > 0;
-}
-
-/// Inches; 0 when there are no teeth to share the length.
-double PitchFromLength(const PlaneKit& kit, double length, int teeth) {
-  return kit.RoundTo(Quotient(length * InchesPerFoot, teeth)).OrZero();
 }
 
 /// The band length always wins: a typed pitch becomes the nearest one that divides the band into whole teeth.
@@ -44,21 +41,54 @@ void SettleWidth(BandSaw& saw) {
 
 }  // namespace
 
-EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages) {
-  const PlaneKit kit(settings.DecimalPlaces);
-  if (saw.NumTeeth < 0) return {};  // no room can be made for such teeth, and nothing is touched
-  saw.GulletInfo.FaceLength = 0;
-  const bool complete = IsComplete(saw);
-  SettlePitch(saw, kit);
-  if (!complete) return {};
-  SettleWidth(saw);
+namespace {
 
-  Teeth teeth(1);
+/// Narrow and O teeth cannot be variable.
+void DropVariablePitch(BandSaw& saw) {
+  const bool never = saw.ToothStyle == NarrowStyle || saw.ToothStyle == OShape;
+  if (never && saw.GeneralInfo.VariablePitch != False) ResetVariablePitch(saw);
+}
+
+/// The way that band and segment have in common: settles pitch and width and calculates the one tooth, as the
+/// first of `teeth`. False when the measures are not all there.
+bool CalculateFirstTooth(BandSaw& saw, const PlaneKit& kit, bool complete, Teeth& teeth, Messages& messages) {
+  saw.GulletInfo.FaceLength = 0;
+  DropVariablePitch(saw);
+  SettlePitch(saw, kit);
+  if (!complete) return false;
+  SettleWidth(saw);
+  teeth.resize(1);
   ToothWork work{saw, teeth.front(), kit, messages};
   CalculateTooth(work);
-  LayOutBand(kit, saw, teeth, settings);
+  return true;
+}
+
+}  // namespace
+
+EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages) {
+  if (saw.NumTeeth < 0) return {};  // no room can be made for such teeth, and nothing is touched
+  const PlaneKit kit(settings.DecimalPlaces);
+  Teeth teeth;
+  if (!CalculateFirstTooth(saw, kit, IsComplete(saw), teeth, messages)) return {};
+  if (saw.GeneralInfo.VariablePitch != False) {
+    LayOutVariableBand(kit, saw, teeth, settings, messages);
+  } else {
+    LayOutBand(kit, saw, teeth, settings);
+  }
   RoundTooth(kit, teeth.front());
   return BuildBandEntities(kit, saw, teeth);
+}
+
+EntityList CalculateSegment(BandSaw& saw, const CalculationSettings& settings, Messages& messages) {
+  if (saw.NumTeeth < 0) return {};
+  const PlaneKit kit(settings.DecimalPlaces);
+  Teeth teeth;
+  // A segment of Frost teeth asks for the plain radius, as styles without a row do: meant.
+  const bool complete = saw.ToothStyle == FrostTooth ? saw.GulletInfo.Radius > 0 : IsComplete(saw);
+  if (!CalculateFirstTooth(saw, kit, complete, teeth, messages)) return {};
+  LayOutVariableSegment(kit, saw, teeth, settings, messages);
+  RoundTooth(kit, teeth.front());
+  return BuildSegmentEntities(kit, teeth, saw.GeneralInfo.NumVariables + 2);
 }
 
 }  // namespace tarnwick

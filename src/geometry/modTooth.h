@@ -15,7 +15,10 @@ class Messages;
 /// list is empty when the style's measures are not all there: `Pitch`, `NumTeeth` and `FaceLength` are
 /// brought up to date all the same. Nothing fails: a statement that cannot be worked out is skipped. The few
 /// routines that report do so on `messages`.
-
 [[nodiscard]] EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages);
+
+/// One segment of a variable pitch band and one tooth more, for its picture on its own; no outline.
+[[nodiscard]] EntityList CalculateSegment(BandSaw& saw, const CalculationSettings& settings,
+                                          Messages& messages);
 
 }  // namespace tarnwick

@@ -7,12 +7,6 @@
 namespace tarnwick {
 namespace {
 
-Point NextTip(const ToothWork& work) {
-  Point next = work.Tip();
-  Let(next.X) = next.X + work.Saw.Pitch;
-  return next;
-}
-
 /// From `from` further on by twice the way from `back` to it.
 void LengthenTwice(Point& from, Point back) { Shift(from, 2 * (from.X - back.X), 2 * (from.Y - back.Y)); }
 
@@ -44,6 +38,17 @@ Fit TryBackRadius(ToothProfile& tooth, const PlaneKit& kit) {
 }
 
 }  // namespace
+
+Point NextTip(const ToothWork& work) {
+  Point next = work.Tip();
+  Let(next.X) = next.X + work.Saw.Pitch;
+  return next;
+}
+
+void TakeClearanceFromTop(ToothWork& work) {
+  const ToothLine& top = work.Tooth.TopLine;
+  work.Saw.ClearAngle = work.Kit.RoundTo(work.Kit.Direction(top.Start, top.End));
+}
 
 double BackAngleLimit(const ToothWork& work, const ToothArc& lastArc) {
   constexpr double clearance = 1.01;

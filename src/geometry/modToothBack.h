@@ -16,6 +16,12 @@ void PlaceBackLine(ToothWork& work, const ToothArc& arc, double radiusField);
 /// the gullet area. Nothing when the band has no teeth.
 void PlaceTopLine(ToothWork& work);
 
+/// The tip of the next tooth, a pitch further on.
+[[nodiscard]] Point NextTip(const ToothWork& work);
+
+/// For the styles whose top falls straight to the gullet: its direction is the clearance angle.
+void TakeClearanceFromTop(ToothWork& work);
+
 /// Makes back and top meet in a fillet of BackArc.Radius, or sharply with radius 0. A radius that the back
 /// cannot hold is taken down, by 0.1 where the lines do not meet and by 0.025 where the fillet runs past the
 /// start of the back, until it fits; what is left of it stays in BackArc.Radius. Changes BackArc,

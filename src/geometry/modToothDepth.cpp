@@ -2,12 +2,16 @@
 
 namespace tarnwick {
 
-void LowerGullet(ToothWork& work, double depth, double run, std::initializer_list<ToothArc*> arcs) {
-  ToothProfile& tooth = work.Tooth;
+void LowerArcs(double depth, double run, std::initializer_list<ToothArc*> arcs) {
   for (ToothArc* arc : arcs) {
     Let(arc->CenterX) = arc->CenterX - run;
     Let(arc->CenterY) = arc->CenterY - depth;
   }
+}
+
+void LowerGullet(ToothWork& work, double depth, double run, std::initializer_list<ToothArc*> arcs) {
+  ToothProfile& tooth = work.Tooth;
+  LowerArcs(depth, run, arcs);
   if (work.HasSeat()) {
     Shift(tooth.DropLine.End, -run, -depth);
   } else {

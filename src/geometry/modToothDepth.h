@@ -6,6 +6,9 @@
 
 namespace tarnwick {
 
+/// Moves the centres of arcs by `depth` down and `run` back.
+void LowerArcs(double depth, double run, std::initializer_list<ToothArc*> arcs);
+
 /// Moves the arcs of the gullet down the face by `depth` in Y and `run` back in X, the way that keeps the
 /// face on the hook line.
 ///

@@ -19,6 +19,16 @@ enum class JoinElement {
   BottomLine = 9,
 };
 
+/// The back of a tooth, for the styles that have one.
+struct ToothBack {
+  /// The arc that leads into the back.
+  const ToothArc& (*LastArc)(const ToothProfile& tooth);
+  /// The back line, tangent to that arc.
+  void (*Place)(ToothWork& work);
+  /// Whether GulletInfo.BackRadius rounds the corner of back and top.
+  bool TakesRadius;
+};
+
 /// What sets one tooth style apart from the skeleton that all share: one row a style.
 struct ToothFamily {
   /// Are the measures there that the style cannot do without.
@@ -29,22 +39,18 @@ struct ToothFamily {
   double (*MinimumDepth)(const ToothWork& work);
   /// Brings the gullet from there to GulletInfo.Depth.
   void (*ApplyDepth)(ToothWork& work);
-  /// The arc that leads into the back.
-  const ToothArc& (*LastArc)(const ToothProfile& tooth);
-  /// The back line, from the arc that leads into it.
-  void (*PlaceBack)(ToothWork& work);
-  /// Whether GulletInfo.BackRadius rounds the corner of back and top.
-  bool RoundsBack;
-  /// The figures that the gullet area adds to the figure between face and back.
-  double (*AddedArea)(const ToothWork& work);
+  /// How the tooth rises to its top; nullptr for the styles that have no back.
+  const ToothBack* Back;
+  /// Without a back: lays the top from the next tip to the gullet, and takes the clearance angle from it.
+  /// Else nullptr.
+  void (*CloseWithoutBack)(ToothWork& work);
+  /// Adds the figures of the gullet, in their order, to the area of the figure between face and back.
+  double (*AddFigures)(const ToothWork& work, double area);
   /// What the end cut of the band is tried on, in this order; the first hit wins.
   std::span<const JoinElement> JoinOrder;
 };
 
 /// The row of a style; nullptr for a number without one (0, the hole at 3, anything else).
 [[nodiscard]] const ToothFamily* FamilyOf(int toothStyle);
-
-/// The piece that the gullet's figure is closed with: the back line.
-[[nodiscard]] const ToothLine& FigureToBack(const ToothProfile& tooth);
 
 }  // namespace tarnwick

@@ -18,6 +18,15 @@ void CarryTags(const ToothProfile& in, ToothProfile& out) {
   out.BothEdges = in.BothEdges;
 }
 
+void MovePoint(const Rounding& round, const Point& from, Point& to, double dx, double dy) {
+  Place(to, round(Checked(from.X + dx)), round(Checked(from.Y + dy)));
+}
+
+void MoveLine(const Rounding& round, const ToothLine& from, ToothLine& to, double dx, double dy) {
+  MovePoint(round, from.Start, to.Start, dx, dy);
+  MovePoint(round, from.End, to.End, dx, dy);
+}
+
 /// A rounded copy of an arc whose centre and angles have been worked out; a number that failed keeps what
 /// `out` held.
 struct ArcMove {
@@ -40,25 +49,35 @@ double MirrorAbout(double angle, double axis) {
 
 }  // namespace
 
-void TranslateTooth(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out, double dx, double dy) {
-  const Rounding& round = kit.RoundTo;
-  const auto movePoint = [&](const Point& from, Point& to) {
-    Place(to, round(Checked(from.X + dx)), round(Checked(from.Y + dy)));
-  };
-  const auto moveLine = [&](LinePiece piece) {
-    movePoint((in.*piece).Start, (out.*piece).Start);
-    movePoint((in.*piece).End, (out.*piece).End);
-  };
+namespace {
+
+/// Moves everything but the top line and the join point.
+void MoveBody(const Rounding& round, const ToothProfile& in, ToothProfile& out, double dx, double dy) {
+  CarryTags(in, out);
+  for (const LinePiece piece : PlainLines) {
+    if (piece != &ToothProfile::TopLine) MoveLine(round, in.*piece, out.*piece, dx, dy);
+  }
+  for (const LinePiece piece : NotchLines) MoveLine(round, in.*piece, out.*piece, dx, dy);
   const auto moveArc = [&, store = ArcMove{round}](ArcPiece piece) {
     const ToothArc& arc = in.*piece;
     store(out.*piece, arc.CenterX + dx, arc.CenterY + dy, arc.Radius, arc.StartAngle, arc.EndAngle);
   };
-  CarryTags(in, out);
-  for (const LinePiece piece : PlainLines) moveLine(piece);
-  for (const LinePiece piece : NotchLines) moveLine(piece);
   for (const ArcPiece piece : PlainArcs) moveArc(piece);
   moveArc(&ToothProfile::FrostArc);
-  movePoint(in.JoinPoint, out.JoinPoint);
+}
+
+}  // namespace
+
+void TranslateTooth(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out, double dx, double dy) {
+  MoveBody(kit.RoundTo, in, out, dx, dy);
+  MoveLine(kit.RoundTo, in.TopLine, out.TopLine, dx, dy);
+  MovePoint(kit.RoundTo, in.JoinPoint, out.JoinPoint, dx, dy);
+}
+
+void TranslateToothParts(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out, double topDx,
+                         double bodyDx) {
+  MoveBody(kit.RoundTo, in, out, bodyDx, 0);
+  MoveLine(kit.RoundTo, in.TopLine, out.TopLine, topDx, 0);
 }
 
 double MirrorAngleX(const PlaneKit& kit, double angle) {

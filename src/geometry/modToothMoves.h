@@ -13,6 +13,11 @@ namespace tarnwick {
 /// `in` moved by (dx, dy) into `out`, which may be the same tooth.
 void TranslateTooth(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out, double dx, double dy);
 
+/// The same along X alone, but the top line, both its ends, moves by `topDx` and the rest by `bodyDx`: it
+/// stretches or shrinks to reach a next tooth that stands further off or nearer. JoinPoint is not carried.
+void TranslateToothParts(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out, double topDx,
+                         double bodyDx);
+
 /// Left and right swapped: X becomes -X, and the sense of each arc is turned. The notch pieces of a Frost
 /// tooth are left out, and `out` simply has none of them: a band turned around loses its notches. Meant.
 void MirrorToothX(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out);

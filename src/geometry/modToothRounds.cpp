@@ -17,8 +17,8 @@ void RaiseToMinimumDepth(ToothWork& work, const ToothFamily& family) {
 }
 
 /// False when the back angle had to be lowered: the tooth is then built again with the new one.
-bool BackAngleHolds(ToothWork& work, const ToothFamily& family) {
-  const double limit = BackAngleLimit(work, family.LastArc(work.Tooth));
+bool BackAngleHolds(ToothWork& work, const ToothBack& back) {
+  const double limit = BackAngleLimit(work, back.LastArc(work.Tooth));
   if (!(limit < work.Saw.GulletInfo.BackAngle)) return true;
   work.Saw.GulletInfo.BackAngle = limit;
   return false;
@@ -42,10 +42,14 @@ bool PlaceTooth(ToothWork& work, const ToothFamily& family) {
   family.PlaceGullet(work);
   RaiseToMinimumDepth(work, family);
   family.ApplyDepth(work);
-  const bool angleHolds = BackAngleHolds(work, family);
-  family.PlaceBack(work);
+  if (family.Back == nullptr) {
+    family.CloseWithoutBack(work);
+    return true;
+  }
+  const bool angleHolds = BackAngleHolds(work, *family.Back);
+  family.Back->Place(work);
   PlaceTopLine(work);
-  return angleHolds && (!family.RoundsBack || RoundBackCorner(work));
+  return angleHolds && (!family.Back->TakesRadius || RoundBackCorner(work));
 }
 
 void NoteCompleteTooth(ToothWork& work) {
