@@ -1,5 +1,6 @@
 #include "dxf/modDxfPairs.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "model/modDecim.h"
@@ -14,12 +15,10 @@ constexpr std::string_view LineEnd = "\r\n";
 /// The code's line: the blanks on either side belong to it, machines expect them.
 void DxfPairs::OpenPair(int code) {
   ++count_;
-  char digits[8];
-  const auto [end, error] = std::to_chars(digits, digits + sizeof digits, code);
-  text_ += ' ';
-  text_.append(digits, end);
-  text_ += ' ';
-  text_ += LineEnd;
+  char line[16] = " ";
+  char* end = std::to_chars(line + 1, line + sizeof line, code).ptr;
+  *end++ = ' ';
+  text_.append(line, std::copy(LineEnd.begin(), LineEnd.end(), end));
 }
 
 void DxfPairs::Add(int code, std::string_view value) {

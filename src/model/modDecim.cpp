@@ -1,11 +1,13 @@
 #include "model/modDecim.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace tarnwick {
 namespace {
 
 constexpr int SignificantDigits = 15;
+constexpr double LeastWithoutExponent = 1e-4;
 
 constexpr double CmPerInch = 2.54;
 constexpr double MmPerInch = 25.4;
@@ -59,14 +61,18 @@ double ReadNumber(std::string_view text) {
 }
 
 void AppendGeneralText(std::string& out, double value) {
+  const double shown = value + 0.0;  // turns -0 into 0: a drawing knows no negative zero
   char buffer[32];
-  // Adding 0 turns -0 into 0: a drawing knows no negative zero.
-  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value + 0.0,
-                                          std::chars_format::general, SignificantDigits);
-  for (char* c = buffer; c != end; ++c) {
-    if (*c == 'e') *c = 'E';
+  char* const last = buffer + sizeof buffer;
+  // The digits that just tell a double from its neighbours are its general form as long as there are no more
+  // than fifteen of them. They come faster, and nearly every number of a drawing is that short.
+  std::to_chars_result made = std::to_chars(buffer, last, shown, std::chars_format::fixed);
+  const bool isShort = made.ec == std::errc() && made.ptr - buffer <= SignificantDigits;
+  if (!isShort || std::abs(shown) < LeastWithoutExponent) {
+    made = std::to_chars(buffer, last, shown, std::chars_format::general, SignificantDigits);
+    std::replace(buffer, made.ptr, 'e', 'E');
   }
-  out.append(buffer, end);
+  out.append(buffer, made.ptr);
 }
 
 std::string GeneralText(double value) {
