@@ -124,7 +124,8 @@ class DesignHandler : public nlohmann::json_sax<nlohmann::json> {
   bool start_array(std::size_t) override {
     if (EnterPassedOver()) return true;
     if (!Arrive()) return false;
-    return std::holds_alternative<SegmentMeasures*>(place_) ? Enter(place_) : Misplaced("an array");
+    return std::holds_alternative<SegmentMeasures*>(place_) ? Enter(place_)
+                                                            : Fail(Mistyped(place_, "an array"));
   }
   bool end_array() override { return LeavePassedOver() || Leave(); }
 
