@@ -111,12 +111,15 @@ TEST_P(EndCut, MeetsTheFirstPieceInTheOrderOfTheStyle) {
   EXPECT_EQ(met, GetParam().Codes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Styles, EndCut,
-                         testing::Values(OrderRow{"SquareBack", 1, {1, 5, 7}},
-                                         OrderRow{"RoundBack", 2, {1, 6, 5, 7}},
-                                         OrderRow{"TheHoleInTheNumbering", 3, {}}, OrderRow{"NoStyle", 0, {}},
-                                         OrderRow{"UnknownStyle", 10, {}}, OrderRow{"NegativeStyle", -1, {}}),
-                         [](const auto& row) { return std::string(row.param.Name); });
+INSTANTIATE_TEST_SUITE_P(
+    Styles, EndCut,
+    testing::Values(OrderRow{"SquareBack", 1, {1, 5, 7}}, OrderRow{"RoundBack", 2, {1, 6, 5, 7}},
+                    OrderRow{"TheHoleInTheNumbering", 3, {}}, OrderRow{"DoubleRadius", 4, {3, 6, 5, 7}},
+                    OrderRow{"TripleRadius", 5, {3, 4, 6, 5, 7}}, OrderRow{"FlatBottom", 6, {9, 3, 6, 5, 7}},
+                    OrderRow{"NarrowStyle", 7, {1, 7}}, OrderRow{"OShape", 8, {2, 9, 7}},
+                    OrderRow{"FrostTooth", 9, {1, 4, 3, 2, 6, 5, 7}}, OrderRow{"NoStyle", 0, {}},
+                    OrderRow{"UnknownStyle", 10, {}}, OrderRow{"NegativeStyle", -1, {}}),
+    [](const auto& row) { return std::string(row.param.Name); });
 
 TEST(EndCut, BeginsWhereItMeetsTheGullet) {
   ToothProfile tooth;
