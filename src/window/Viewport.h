@@ -33,8 +33,10 @@ class Viewport {
   static constexpr int LineStep = 25;  // single step of both bars: half an inch
 
   void SetSurface(SurfaceSize size) { surface_ = size; }
+  /// `displayScale` 0.5 to 1.5, see DisplaySettings; `decimalPlaces` of the mapping's roundings.
   void SetCalibration(double displayScale, int decimalPlaces);
 
+  /// True size reads "1.0", every other scale is the shortest decimal.
   [[nodiscard]] const std::string& ScaleText() const { return scaleText_; }
   [[nodiscard]] double Scale() const;
   [[nodiscard]] int Horizontal() const { return horizontal_; }
@@ -48,13 +50,22 @@ class Viewport {
   void FitScale(const Extents& extents);
   [[nodiscard]] double FullScale() const { return fullScale_; }
 
-  // Commands. True: redraw.
+  // Commands. True: redraw. Bars stop at their ends.
+
+  /// The whole drawing in the middle, nineteen twentieths of the surface across or down.
   bool ViewAll(const Extents& extents);
+  /// True size, the design's origin a hair left of the middle and above it. A band so wide that its tooth
+  /// line would lie off the surface has that line in the middle instead: a band opens with teeth to see.
   /// `saw`: the design that is listed, or nullptr for an empty drawing.
   bool ViewOneToOne(const BandSaw* saw);
+  /// One segment of a variable pitch band across the surface; nothing for any other band.
   bool ViewSegment(const BandSaw& saw);
+  /// By a quarter, up to three times the full scale. The scale is cut to three places, but to six where
+  /// three would not let it grow.
   bool ZoomIn();
+  /// By a fifth, as long as the scale is above 0.01.
   bool ZoomOut();
+  /// The view before this one; again, and this one is back. Nothing while there was no other.
   bool ShowLastView();
   /// The user moved a bar.
   bool Scroll(int horizontal, int vertical);
@@ -63,6 +74,7 @@ class Viewport {
   bool ZoomAbout(SurfacePoint place, double factor);
 
   // The zoom rectangle.
+  /// None: the rectangle has no width or no height; nothing changed.
   enum class Gesture { None, Click, Zoomed };
   void BeginRectangle(SurfacePoint corner);
   void DragRectangle(SurfacePoint corner);
@@ -77,6 +89,18 @@ class Viewport {
  private:
   /// Notes the view that the controls now show, if it is another one, and the one before it.
   void RememberView();
+
+  /// False before the window has been laid out: nothing can be fitted then.
+  [[nodiscard]] bool HasSurface() const { return surface_.Width > 0 && surface_.Height > 0; }
+  void ShowScale(double scale);
+  void ShowBars(double horizontal, double vertical);
+  /// The bars that bring a point of the design to the middle of the surface, at the scale shown.
+  void Center(double x, double y);
+  [[nodiscard]] bool ShowsHeight(double y) const;
+
+  [[nodiscard]] double ZoomLimit() const;
+  bool ZoomBy(double factor);
+  bool ZoomWindow();
 
   SurfaceSize surface_;
   double displayScale_ = 1.0;
