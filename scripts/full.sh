@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # The stages that ./check --full has beyond ./check. A stage is one function; run_full_stages is the list.
 
+second_designs=${SECOND_DESIGNS:-1000} # of each of two seeds
 fuzz_seconds=${FUZZ_SECONDS:-20} # for each target
 
 run_full_stages() {
@@ -9,6 +10,7 @@ run_full_stages() {
   run_stage "static checks" stage_static_checks
   run_stage "tests under sanitizers" stage_sanitizers
   run_stage "fuzzing" stage_fuzzing
+  run_stage "second computation" stage_second_computation
   run_stage "drawings in other readers" stage_drawings
   run_stage "benchmarks run" stage_benchmarks
 }
@@ -61,6 +63,22 @@ stage_fuzzing() {
       tail -n 60 "$log"
       count 0 1
     fi
+  done
+}
+
+# Random designs, plausible and degenerate, worked out by the program and by the Python computation: equal to the last digit.
+stage_second_computation() {
+  build_preset release
+  local work=build/second-computation seed
+  mkdir -p "$work"
+  for seed in 1 2; do
+    /usr/bin/python3 -B tests/reference/random_designs.py "$seed" "$second_designs" |
+      /usr/bin/python3 -B tests/reference/tarnwick_reference.py --worked >"$work/$seed.jsonl" &
+  done
+  wait
+  for seed in 1 2; do
+    TARNWICK_CLI=build/release/src/tarnwick-cli /usr/bin/python3 -B tests/worked_bands_test.py "$work/$seed.jsonl"
+    count "$(wc -l <"$work/$seed.jsonl")" 0
   done
 }
 

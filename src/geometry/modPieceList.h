@@ -14,6 +14,7 @@ class PieceList {
   PieceList(const PlaneKit& kit, EntityList& list, std::size_t room) : kit_(kit), list_(list), room_(room) {}
 
   void Add(const ToothLine& line) {
+    if (line.Start == line.End) return;
     if (kit_.Distance(line.Start, line.End) > 0) AddLine(line.Start, line.End, LineRole::Piece);
   }
 

@@ -18,8 +18,13 @@ void CarryTags(const ToothProfile& in, ToothProfile& out) {
   out.BothEdges = in.BothEdges;
 }
 
+void StorePoint(const Rounding& round, Point& out, double x, double y) {
+  round.Store(out.X, x);
+  round.Store(out.Y, y);
+}
+
 void MovePoint(const Rounding& round, const Point& from, Point& to, double dx, double dy) {
-  Place(to, round(Checked(from.X + dx)), round(Checked(from.Y + dy)));
+  StorePoint(round, to, from.X + dx, from.Y + dy);
 }
 
 void MoveLine(const Rounding& round, const ToothLine& from, ToothLine& to, double dx, double dy) {
@@ -27,20 +32,18 @@ void MoveLine(const Rounding& round, const ToothLine& from, ToothLine& to, doubl
   MovePoint(round, from.End, to.End, dx, dy);
 }
 
-/// A rounded copy of an arc whose centre and angles have been worked out; a number that failed keeps what
-/// `out` held.
-struct ArcMove {
-  const Rounding& Round;
+/// An arc whose numbers have been worked out; each is a statement of its own.
+void StoreArc(const Rounding& round, ToothArc& out, const ToothArc& moved) {
+  round.Store(out.CenterX, moved.CenterX);
+  round.Store(out.CenterY, moved.CenterY);
+  round.Store(out.Radius, moved.Radius);
+  round.Store(out.StartAngle, moved.StartAngle);
+  round.Store(out.EndAngle, moved.EndAngle);
+}
 
-  void operator()(ToothArc& out, double centerX, double centerY, double radius, double start,
-                  double end) const {
-    Let(out.CenterX) = Round(Checked(centerX));
-    Let(out.CenterY) = Round(Checked(centerY));
-    Let(out.Radius) = Round(Checked(radius));
-    Let(out.StartAngle) = Round(Checked(start));
-    Let(out.EndAngle) = Round(Checked(end));
-  }
-};
+void MoveArc(const Rounding& round, const ToothArc& arc, ToothArc& out, double dx, double dy) {
+  StoreArc(round, out, {arc.CenterX + dx, arc.CenterY + dy, arc.Radius, arc.StartAngle, arc.EndAngle});
+}
 
 /// Above 360 less 360 once, below 0 plus 360 once, then mirrored about `axis` by the difference to it.
 double MirrorAbout(double angle, double axis) {
@@ -58,12 +61,8 @@ void MoveBody(const Rounding& round, const ToothProfile& in, ToothProfile& out, 
     if (piece != &ToothProfile::TopLine) MoveLine(round, in.*piece, out.*piece, dx, dy);
   }
   for (const LinePiece piece : NotchLines) MoveLine(round, in.*piece, out.*piece, dx, dy);
-  const auto moveArc = [&, store = ArcMove{round}](ArcPiece piece) {
-    const ToothArc& arc = in.*piece;
-    store(out.*piece, arc.CenterX + dx, arc.CenterY + dy, arc.Radius, arc.StartAngle, arc.EndAngle);
-  };
-  for (const ArcPiece piece : PlainArcs) moveArc(piece);
-  moveArc(&ToothProfile::FrostArc);
+  for (const ArcPiece piece : PlainArcs) MoveArc(round, in.*piece, out.*piece, dx, dy);
+  MoveArc(round, in.FrostArc, out.FrostArc, dx, dy);
 }
 
 }  // namespace
@@ -100,7 +99,7 @@ void MirrorTooth(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out,
                  MirrorAngle mirrorAngle) {
   const Rounding& round = kit.RoundTo;
   const auto mirrorPoint = [&](const Point& from, Point& to) {
-    Place(to, round(Checked(signX * from.X)), round(Checked(signY * from.Y)));
+    StorePoint(round, to, signX * from.X, signY * from.Y);
   };
   CarryTags(in, out);
   for (const LinePiece piece : PlainLines) {
@@ -108,10 +107,14 @@ void MirrorTooth(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out,
     mirrorPoint((in.*piece).End, (out.*piece).End);
   }
   for (const ArcPiece piece : PlainArcs) {
-    const ToothArc arc = in.*piece;
+    const ToothArc& arc = in.*piece;
+    ToothArc& mirrored = out.*piece;
+    round.Store(mirrored.CenterX, signX * arc.CenterX);
+    round.Store(mirrored.CenterY, signY * arc.CenterY);
+    mirrored.Radius = arc.Radius;
     // Start and end change places: a mirror turns the sense of an arc.
-    ArcMove{round}(out.*piece, signX * arc.CenterX, signY * arc.CenterY, arc.Radius,
-                   mirrorAngle(kit, arc.EndAngle), mirrorAngle(kit, arc.StartAngle));
+    mirrored.StartAngle = mirrorAngle(kit, arc.EndAngle);
+    mirrored.EndAngle = mirrorAngle(kit, arc.StartAngle);
   }
   mirrorPoint(in.JoinPoint, out.JoinPoint);
 }
@@ -128,15 +131,12 @@ void MirrorToothY(const PlaneKit& kit, const ToothProfile& in, ToothProfile& out
 
 void RoundTooth(const PlaneKit& kit, ToothProfile& tooth) {
   const Rounding& round = kit.RoundTo;
-  const auto roundPoint = [&](Point& p) { Place(p, round(Checked(p.X)), round(Checked(p.Y))); };
+  const auto roundPoint = [&](Point& p) { StorePoint(round, p, p.X, p.Y); };
   for (const LinePiece piece : PlainLines) {
     roundPoint((tooth.*piece).Start);
     roundPoint((tooth.*piece).End);
   }
-  for (const ArcPiece piece : PlainArcs) {
-    ToothArc& arc = tooth.*piece;
-    ArcMove{round}(arc, arc.CenterX, arc.CenterY, arc.Radius, arc.StartAngle, arc.EndAngle);
-  }
+  for (const ArcPiece piece : PlainArcs) StoreArc(round, tooth.*piece, tooth.*piece);
 }
 
 }  // namespace tarnwick

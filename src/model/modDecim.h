@@ -34,6 +34,17 @@ class Rounding {
     return static_cast<double>(static_cast<std::int64_t>(shifted)) / scale_;
   }
 
+  /// `Let(target) = RoundTo(value)` in one step, for what is done to every number of a band: a value that
+  /// failed to be a finite number leaves the target alone.
+  void Store(double& target, double value) const noexcept {
+    const double shifted = (lift_ + value) * scale_;
+    if (std::abs(shifted) < WholeFrom) {
+      target = static_cast<double>(static_cast<std::int64_t>(shifted)) / scale_;
+    } else if (std::isfinite(value)) {
+      target = OfHuge(shifted);
+    }
+  }
+
   /// Within a statement: a failed expression stays failed, a number is rounded.
   [[nodiscard]] Checked operator()(Checked value) const noexcept {
     return value.Ok() ? Checked((*this)(value.OrZero())) : value;
