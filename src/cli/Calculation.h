@@ -13,7 +13,7 @@ namespace tarnwick::cli {
 enum class Scope { WholeBand, Segment };
 
 /// Calculates `design` in place: its record afterwards, its notes with the messages of the calculation behind
-/// them. A design that failed already, or fails here, is left alone and gives an empty drawing.
+/// them. A design that failed already is left alone and gives an empty drawing.
 [[nodiscard]] EntityList Calculate(Design& design, Scope scope, const CalculationSettings& settings);
 
 }  // namespace tarnwick::cli
