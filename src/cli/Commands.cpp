@@ -12,6 +12,7 @@
 #include "dxf/modDXF.h"
 #include "model/modZoom.h"
 #include "store/modSave.h"
+#include "window/modSvg.h"
 
 namespace tarnwick::cli {
 namespace {
@@ -53,13 +54,17 @@ Problem PrintJson(const Options& options, const std::string& name) {
   return WriteToStandardOutput(line);
 }
 
-Problem WriteDrawing(const Options& options, Output& output, const std::string& name) {
+/// The text of a file that shows a drawing; nullopt when it would be too large.
+using DrawingText = std::function<std::optional<std::string>(const EntityList&)>;
+
+Problem WriteDrawing(const Options& options, Output& output, const std::string& name,
+                     const DrawingText& textOf) {
   if (Problem problem = output.Claim(name)) return problem;
   Design design = ReadDesign(name);
   const EntityList drawing = Calculate(design, ScopeOf(options), options.Settings);
   if (design.Failed) return design.Failed;
   TellNotes(name, design);
-  const std::optional<std::string> text = DxfText(drawing, options.Settings);
+  const std::optional<std::string> text = textOf(drawing);
   if (!text) return "File is two large";  // spelt so in the window too
   if (output.IsStandardOutput()) return WriteToStandardOutput(*text);
   const std::filesystem::path path = output.PathOf(name);
@@ -107,8 +112,14 @@ ExitCode RunCommand(const Options& options) {
       return ForEachDesign(options, [&](const std::string& name) { return PrintJson(options, name); });
     case Command::Dxf: {
       Output output(options, ".dxf");
-      return ForEachDesign(options,
-                           [&](const std::string& name) { return WriteDrawing(options, output, name); });
+      const auto text = [&](const EntityList& list) { return DxfText(list, options.Settings); };
+      return ForEachDesign(
+          options, [&](const std::string& name) { return WriteDrawing(options, output, name, text); });
+    }
+    case Command::Svg: {
+      Output output(options, ".svg");
+      return ForEachDesign(
+          options, [&](const std::string& name) { return WriteDrawing(options, output, name, SvgText); });
     }
     case Command::Bsw: {
       Output output(options, ".bsw");

@@ -85,6 +85,14 @@ CLI::App& AddDxf(CLI::App& app, Options& options) {
   return dxf;
 }
 
+CLI::App& AddSvg(CLI::App& app, Options& options) {
+  CLI::App& svg =
+      AddCommand(app, "svg", "Write the drawing of each design as an SVG picture in true inches", options);
+  AddOutput(svg, options, ".svg");
+  AddSegment(svg, options);
+  return svg;
+}
+
 CLI::App& AddBsw(CLI::App& app, Options& options) {
   CLI::App& bsw = AddCommand(app, "bsw", "Write each design as a band saw file", options);
   AddOutput(bsw, options, ".bsw");
@@ -126,6 +134,7 @@ std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) 
   app.footer("tarnwick-cli COMMAND --help tells more of a command.\n\n" + std::string(AboutDesigns));
   AddJson(app, options).callback([&options] { options.Asked = Command::Json; });
   AddDxf(app, options).callback([&options] { options.Asked = Command::Dxf; });
+  AddSvg(app, options).callback([&options] { options.Asked = Command::Svg; });
   AddBsw(app, options).callback([&options] { options.Asked = Command::Bsw; });
   try {
     app.parse(argc, argv);

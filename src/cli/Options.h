@@ -9,7 +9,7 @@
 
 namespace tarnwick::cli {
 
-enum class Command { Json, Dxf, Bsw };
+enum class Command { Json, Dxf, Svg, Bsw };
 
 /// Name of a design or an output that stands for standard input or output.
 inline constexpr const char* StandardStream = "-";
@@ -26,7 +26,7 @@ struct Options {
   bool WithCalculation{};     // bsw: the record as calculated
   bool Segment{};             // one segment of a variable band in place of the whole band
 
-  // dxf and bsw: one of the two is given
+  // dxf, svg and bsw: one of the two is given
   std::string OutputFile;    // of the one design; "-" is standard output
   std::string OutputFolder;  // of all designs, each under its own name
 };
