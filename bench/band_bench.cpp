@@ -1,0 +1,66 @@
+#include <benchmark/benchmark.h>
+
+#include "bands.h"
+#include "floor.h"
+#include "model/modZoom.h"
+
+// From the measures to the drawing, and the box around it.
+namespace tarnwick::bench {
+namespace {
+
+void Calculate(benchmark::State& state, const BandSaw& design) {
+  NobodyListens nobody;
+  std::size_t bytes = 0;
+  for (auto _ : state) {
+    BandSaw saw = design;
+    const EntityList list = CalculateSaw(saw, RoomySettings, nobody);
+    benchmark::DoNotOptimize(list.Entities.data());
+    bytes = BytesOf(list);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(bytes) * state.iterations());
+  state.SetComplexityN(state.range(0));
+}
+
+void CalculateSquareBack(benchmark::State& state) {
+  Calculate(state, ResawBand(SquareBack, static_cast<int>(state.range(0))));
+}
+
+void CalculateRoundBack(benchmark::State& state) {
+  Calculate(state, ResawBand(RoundBack, static_cast<int>(state.range(0))));
+}
+
+void CalculateRoundBackOnBothEdges(benchmark::State& state) {
+  BandSaw design = ResawBand(RoundBack, static_cast<int>(state.range(0)));
+  design.BothEdges = True;
+  Calculate(state, design);
+}
+
+void CopyDrawing(benchmark::State& state) {
+  const EntityList list = DrawingOf(ResawBand(RoundBack, static_cast<int>(state.range(0))));
+  MeasureCopy(state, list.Entities.data(), BytesOf(list));
+}
+
+void MeasureExtents(benchmark::State& state) {
+  const EntityList list = DrawingOf(ResawBand(RoundBack, static_cast<int>(state.range(0))));
+  for (auto _ : state) {
+    const Extents box = ComputeExtents(list);
+    benchmark::DoNotOptimize(&box);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(BytesOf(list)) * state.iterations());
+}
+
+BENCHMARK(CalculateSquareBack)->Arg(UsualTeeth)->Arg(MostTeeth);
+BENCHMARK(CalculateRoundBack)->Arg(UsualTeeth)->Arg(MostTeeth);
+BENCHMARK(CalculateRoundBackOnBothEdges)->Arg(UsualTeeth)->Arg(MostTeeth);
+BENCHMARK(MeasureExtents)->Arg(UsualTeeth)->Arg(MostTeeth);
+BENCHMARK(CopyDrawing)->Arg(UsualTeeth)->Arg(MostTeeth);
+
+// How the cost grows: the fit's coefficient is the price of one more tooth.
+BENCHMARK(CalculateRoundBack)
+    ->Name("GrowthWithTeeth")
+    ->RangeMultiplier(2)
+    ->Range(MostTeeth / 32, MostTeeth)
+    ->Complexity(benchmark::oN);
+
+}  // namespace
+}  // namespace tarnwick::bench

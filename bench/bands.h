@@ -1,0 +1,47 @@
+#pragma once
+
+#include "geometry/modTooth.h"
+#include "model/modBandSaw.h"
+#include "platform/Messages.h"
+
+// What all measurements share: bands of any number of teeth, and their drawings.
+namespace tarnwick::bench {
+
+inline constexpr int UsualTeeth = 137;   // of a 20 ft band at 1 3/4 in
+inline constexpr int MostTeeth = 32000;  // close to what the record can count
+
+/// Pairs for the longest band with teeth on both edges: past what a user can set, so that its text can be
+/// measured too.
+inline constexpr CalculationSettings RoomySettings{.MemorySize = 4'000'000};
+
+class NobodyListens final : public Messages {
+ public:
+  Button Show(const Box& box) override { return box.Default; }
+};
+
+/// A resaw band of `teeth` teeth 1 3/4 in apart, long enough to hold them. A Square Back takes the same
+/// measures, the back radius left aside.
+inline BandSaw ResawBand(ToothStyleNumber style, int teeth) {
+  BandSaw saw;
+  saw.ToothStyle = style;
+  saw.Pitch = 1.75;
+  saw.Length = teeth * saw.Pitch / 12;
+  saw.Width = 4;
+  saw.HookAngle = 20;
+  saw.ClearAngle = 12;
+  saw.GulletInfo.Radius = 0.3125;
+  saw.GulletInfo.Depth = 0.55;
+  saw.GulletInfo.BackAngle = 16;
+  saw.GulletInfo.BackRadius = 0.2;
+  saw.GeneralInfo.PlateThick = 0.042;
+  return saw;
+}
+
+inline EntityList DrawingOf(BandSaw saw) {
+  NobodyListens nobody;
+  return CalculateSaw(saw, RoomySettings, nobody);
+}
+
+inline std::size_t BytesOf(const EntityList& list) { return list.Entities.size() * sizeof(Entity); }
+
+}  // namespace tarnwick::bench
