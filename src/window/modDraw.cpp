@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <optional>
 #include <utility>
 #include <variant>
 
@@ -45,24 +44,19 @@ PixelBox ToSurface(const PieceBox& box, const Mapping& mapping) {
   return {topLeft.X, topLeft.Y, bottomRight.X, bottomRight.Y};
 }
 
-/// What is in no single column of pixels is in none.
-std::optional<double> ColumnOf(const PixelBox& box) {
-  const double column = std::floor(box.Left);
-  return std::floor(box.Right) == column ? std::optional(column) : std::nullopt;
-}
-
 using Piece = std::variant<const LineEntity*, const ArcEntity*>;
 
 /// Pieces in one column of pixels, not a pixel apart, that become one stroke. A band on the screen has dozens
 /// of teeth in a column.
 struct Bundle {
-  double Column{};
+  double Column{};  // its left edge
   PixelBox Box;
   int Pieces{};
   Piece First;  // a lone piece is drawn as it is
 
-  [[nodiscard]] bool Takes(double column, const PixelBox& box) const {
-    return Pieces > 0 && column == Column && box.Top <= Box.Bottom + 1 && box.Bottom >= Box.Top - 1;
+  [[nodiscard]] bool Holds(const PixelBox& box) const { return box.Left >= Column && box.Right < Column + 1; }
+  [[nodiscard]] bool Takes(const PixelBox& box) const {
+    return Pieces > 0 && Holds(box) && box.Top <= Box.Bottom + 1 && box.Bottom >= Box.Top - 1;
   }
   void Add(const PixelBox& box) {
     Box = {std::min(Box.Left, box.Left), std::min(Box.Top, box.Top), std::max(Box.Right, box.Right),
@@ -172,11 +166,11 @@ void Drawing::DrawText(const TextEntity& text) {
 /// Takes a piece that lies in one column of pixels into the bundle of that column.
 bool Drawing::Bundled(const PixelBox& box, Piece piece) {
   if (detail_ == Detail::EveryPiece) return false;
-  const std::optional<double> column = ColumnOf(box);
-  if (!column) return false;
-  if (!bundle_.Takes(*column, box)) {
+  if (!bundle_.Takes(box)) {
+    const Bundle next{std::floor(box.Left), box, 0, piece};
+    if (!next.Holds(box)) return false;
     DrawBundle();
-    bundle_ = {*column, box, 0, piece};
+    bundle_ = next;
   }
   bundle_.Add(box);
   return true;
