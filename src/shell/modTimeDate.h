@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "platform/Clock.h"
+
+namespace tarnwick {
+
+/// The clock of the status bar, in English in every country: "3:05 pm  Nov 21, 2026", two blanks between.
+/// Midnight is 12:00 am, noon 12:00 pm. Empty for a month that does not exist.
+[[nodiscard]] std::string TimeDateText(const LocalTime& time);
+
+}  // namespace tarnwick

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace tarnwick {
+
+/// Outer size of a window, frame included, in device-independent pixels.
+struct WindowSize {
+  int Width{}, Height{};
+  bool operator==(const WindowSize&) const = default;
+};
+
+/// Between which sizes the main window can be drawn.
+struct WindowLimits {
+  WindowSize Least, Most;
+};
+
+/// The main window opens filling the work area and never grows beyond it. It can be made as small as 800 x
+/// 600; on a screen no wider than that it always fills the work area.
+[[nodiscard]] constexpr WindowLimits MainWindowLimits(int screenWidth, WindowSize workArea) {
+  constexpr WindowSize smallest{800, 600};
+  return {screenWidth > smallest.Width ? smallest : workArea, workArea};
+}
+
+}  // namespace tarnwick
