@@ -1,6 +1,7 @@
 #include "platform/SvgCanvas.h"
 
 #include <cmath>
+#include <numbers>
 
 #include "model/modDecim.h"
 #include "platform/Ellipse.h"
@@ -86,6 +87,7 @@ void SvgCanvas::Arc(Spot topLeft, Spot bottomRight, Spot start, Spot end) {
   const double from = ellipse.AngleTo(start);
   const double sweep = ellipse.Sweep(start, end);
 
+  constexpr double halfTurn = std::numbers::pi + 1e-9;  // and the last bits of one
   constexpr std::string_view shortWayAnticlockwise = " 0 0 0 ";
   const std::string arc = "A" + Number(ellipse.RadiusX) + ' ' + Number(ellipse.RadiusY);
   MoveTo(Place(ellipse.At(from)));
@@ -93,7 +95,7 @@ void SvgCanvas::Arc(Spot topLeft, Spot bottomRight, Spot start, Spot end) {
     Step(arc + std::string(shortWayAnticlockwise) + place);
     place_ = place;
   };
-  if (sweep > Pi) arcTo(Place(ellipse.At(from + sweep / 2)));
+  if (sweep > halfTurn) arcTo(Place(ellipse.At(from + sweep / 2)));
   arcTo(Place(ellipse.At(from + sweep)));
 }
 
