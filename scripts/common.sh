@@ -18,9 +18,9 @@ as_root() {
 
 # Packages of the distribution, by what they are for.
 # shellcheck disable=SC2034  # the callers use them
-packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev fonts-dejavu-core)
 # shellcheck disable=SC2034
-packages_tests=(libgtest-dev libdxflib-dev python3)
+packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemagick)
 # shellcheck disable=SC2034
 packages_full=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
   python3-ezdxf gdal-bin)

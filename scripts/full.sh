@@ -9,6 +9,7 @@ run_full_stages() {
   run_stage "shell scripts" stage_shell_scripts
   run_stage "static checks" stage_static_checks
   run_stage "tests under sanitizers" stage_sanitizers
+  run_stage "without Qt" stage_without_qt
   run_stage "fuzzing" stage_fuzzing
   run_stage "second computation" stage_second_computation
   run_stage "drawings in other readers" stage_drawings
@@ -43,6 +44,11 @@ stage_static_checks() {
 stage_sanitizers() {
   build_preset asan
   run_tests asan
+}
+
+# Core and command line tool, on a build that looks for no Qt.
+stage_without_qt() {
+  build_preset no-gui --target tarnwick_core tarnwick-cli
 }
 
 # Fresh finds go to a folder of their own, so that every run starts from the seeds alone.

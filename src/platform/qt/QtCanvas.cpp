@@ -1,0 +1,171 @@
+#include "platform/qt/QtCanvas.h"
+
+#include <QFontMetricsF>
+#include <QPen>
+#include <QPolygonF>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <optional>
+
+namespace tarnwick {
+namespace {
+
+constexpr double CenterLineWeight = 0.6;  // of a saw line's: the saw is the loudest thing on the screen
+constexpr double SeenMargin = 8;          // pixels around the surface where strokes may still end
+constexpr double Flatness = 0.1;          // device pixels that a chord may lie beside its arc
+constexpr double MostChords = 65536;
+
+QPointF ToQt(Spot spot) { return {spot.X, spot.Y}; }
+
+/// The part of `line` inside of `box` (Liang and Barsky); none when it passes by, or is no number.
+std::optional<QLineF> Clipped(const QLineF& line, const QRectF& box) {
+  double from = 0, to = 1;
+  const auto cut = [&](double towards, double room) {  // keeps what has towards * t <= room
+    if (!(towards != 0)) return room >= 0;
+    const double t = room / towards;
+    if (towards < 0) from = std::max(from, t);
+    if (towards > 0) to = std::min(to, t);
+    return from <= to;
+  };
+  if (!std::isfinite(line.dx()) || !std::isfinite(line.dy())) return {};
+  if (!cut(-line.dx(), line.x1() - box.left()) || !cut(line.dx(), box.right() - line.x1()) ||
+      !cut(-line.dy(), line.y1() - box.top()) || !cut(line.dy(), box.bottom() - line.y1())) {
+    return {};
+  }
+  return QLineF(line.pointAt(from), line.pointAt(to));
+}
+
+/// A level or upright line moved, by less than a device's pixel, to where it covers whole ones: it would be a
+/// grey pair of lines else.
+QLineF OnPixels(const QLineF& line, double ratio) {
+  const double odd =
+      std::fmod(std::round(ratio), 2) / 2;  // a line an odd number of pixels wide has one in its middle
+  const auto crisp = [=](double place) { return (std::round((place * ratio) - odd) + odd) / ratio; };
+  if (line.dy() == 0) return {line.x1(), crisp(line.y1()), line.x2(), crisp(line.y1())};
+  if (line.dx() == 0) return {crisp(line.x1()), line.y1(), crisp(line.x1()), line.y2()};
+  return line;
+}
+
+/// An ellipse by its box, in the angles of a surface: 0 to the right, anticlockwise for the eye.
+struct Ellipse {
+  double CenterX, CenterY, RadiusX, RadiusY;
+
+  [[nodiscard]] double AngleTo(Spot spot) const {
+    return std::atan2((CenterY - spot.Y) / RadiusY, (spot.X - CenterX) / RadiusX);
+  }
+  [[nodiscard]] QPointF At(double angle) const {
+    return {CenterX + (RadiusX * std::cos(angle)), CenterY - (RadiusY * std::sin(angle))};
+  }
+};
+
+/// How many chords stand for an arc of `sweep` radians so that nobody sees them.
+int ChordsFor(double radius, double sweep) {
+  const double chord = 2 * std::acos(1 - std::min(1.0, Flatness / radius));
+  return static_cast<int>(std::clamp(std::ceil(sweep / chord), 1.0, MostChords));
+}
+
+}  // namespace
+
+QtCanvas::QtCanvas(QPainter& painter, QSizeF size)
+    : painter_(painter),
+      size_(size),
+      seen_(QRectF(QPointF(0, 0), size).adjusted(-SeenMargin, -SeenMargin, SeenMargin, SeenMargin)),
+      ratio_(painter.device()->devicePixelRatio()) {
+  painter_.setRenderHint(QPainter::Antialiasing);
+  SetPen(colour_, style_);
+}
+
+PixelSize QtCanvas::Size() const { return {size_.width(), size_.height()}; }
+
+void QtCanvas::Clear(Colour background) {
+  lines_.clear();
+  painter_.fillRect(QRectF(QPointF(0, 0), size_), ToQt(background));
+}
+
+void QtCanvas::SetPen(Colour colour, PenStyle style) {
+  Flush();
+  colour_ = colour;
+  style_ = style;
+  QPen pen(ToQt(colour));
+  pen.setCosmetic(true);
+  pen.setWidthF(ratio_);
+  pen.setCapStyle(Qt::SquareCap);
+  if (style == PenStyle::Dots) {
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setDashPattern({2, 2});
+  } else if (style == PenStyle::DashDot) {
+    pen.setWidthF(ratio_ * CenterLineWeight);
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setDashPattern({20, 6, 3, 6});
+  }
+  painter_.setPen(pen);
+  painter_.setBrush(Qt::NoBrush);
+}
+
+void QtCanvas::Polyline(std::span<const Spot, 2> points) {
+  if (const auto line = Clipped(QLineF(ToQt(points[0]), ToQt(points[1])), seen_)) {
+    lines_.push_back(OnPixels(*line, ratio_));
+  }
+}
+
+// The arc goes out as chords: exact at any radius, and only those that can be seen.
+void QtCanvas::Arc(Spot topLeft, Spot bottomRight, Spot start, Spot end) {
+  const Ellipse ellipse{(topLeft.X + bottomRight.X) / 2, (topLeft.Y + bottomRight.Y) / 2,
+                        (bottomRight.X - topLeft.X) / 2, (bottomRight.Y - topLeft.Y) / 2};
+  if (!(ellipse.RadiusX > 0) || !(ellipse.RadiusY > 0)) return;
+  const double from = ellipse.AngleTo(start);
+  double sweep = start == end ? 2 * std::numbers::pi : ellipse.AngleTo(end) - from;
+  if (sweep <= 0) sweep += 2 * std::numbers::pi;
+  if (!std::isfinite(from + sweep)) return;
+
+  const int chords = ChordsFor(std::max(ellipse.RadiusX, ellipse.RadiusY) * ratio_, sweep);
+  std::vector<QPointF> chain{ellipse.At(from)};
+  for (int i = 1; i <= chords; ++i) {
+    const QPointF next = ellipse.At(from + (sweep * i / chords));
+    if (Clipped(QLineF(chain.back(), next), seen_)) {
+      chain.push_back(next);
+    } else {
+      DrawChain(chain);
+      chain = {next};
+    }
+  }
+  DrawChain(chain);
+}
+
+void QtCanvas::Polygon(std::span<const Spot> points) {
+  Flush();
+  QPolygonF figure;
+  for (const Spot& spot : points) figure << ToQt(spot);
+  painter_.setBrush(ToQt(colour_));
+  painter_.drawPolygon(figure);
+  painter_.setBrush(Qt::NoBrush);
+}
+
+PixelSize QtCanvas::TextSize(std::string_view text) const {
+  const QFontMetricsF metrics(painter_.font(), painter_.device());
+  return {metrics.horizontalAdvance(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))),
+          metrics.height()};
+}
+
+void QtCanvas::Text(Spot topLeft, std::string_view text) {
+  Flush();
+  const QFontMetricsF metrics(painter_.font(), painter_.device());
+  painter_.drawText(QPointF(topLeft.X, topLeft.Y + metrics.ascent()),
+                    QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void QtCanvas::Flush() {
+  if (lines_.empty()) return;
+  painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
+  lines_.clear();
+}
+
+// A chain of its own is one short path, without beads where its chords meet.
+void QtCanvas::DrawChain(const std::vector<QPointF>& chain) {
+  if (chain.size() == 2) lines_.emplace_back(chain[0], chain[1]);
+  if (chain.size() > 2) painter_.drawPolyline(chain.data(), static_cast<int>(chain.size()));
+}
+
+}  // namespace tarnwick
