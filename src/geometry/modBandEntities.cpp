@@ -77,7 +77,9 @@ EntityList BuildBandEntities(const PlaneKit& kit, const BandSaw& saw, const Teet
   const int count = bothEdges ? (n + 1) * 2 : n + 1;
 
   constexpr int piecesPerTooth = 16;
+  constexpr std::size_t usualPieces = 8;  // of a tooth; a list that has to grow is copied whole each time
   EntityList list;
+  list.Entities.reserve(teeth.size() * usualPieces);
   PieceList pieces(kit, list, RoomFor(count, piecesPerTooth));
   if (n >= 0) {
     for (const ToothProfile& tooth : teeth) AddTooth(pieces, tooth);
