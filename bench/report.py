@@ -5,7 +5,7 @@
 
 The floor is what the same bytes cost when nothing is worked out: copying the list or the text in memory, writing the
 text to a file.  Repetitions of all measurements are mixed with each other, so that a busy moment of the machine falls
-on both sides of a ratio, and the median counts.  Memory is warm: the first band of a process pays for its fresh pages
+on both sides of a ratio, and the median counts.  Memory is warm: the first bands of a process pay for fresh pages
 on top, about as much again at 32,000 teeth.  Exit code 1 when a target is missed.
 """
 
