@@ -65,7 +65,7 @@ Problem WriteDrawing(const Options& options, Output& output, const std::string& 
   if (design.Failed) return design.Failed;
   TellNotes(name, design);
   const std::optional<std::string> text = textOf(drawing);
-  if (!text) return "File is two large";  // spelt so in the window too
+  if (!text) return std::string(FileTooLarge);
   if (output.IsStandardOutput()) return WriteToStandardOutput(*text);
   const std::filesystem::path path = output.PathOf(name);
   return WriteProblem(path, WriteWholeFile(path, *text));

@@ -120,7 +120,7 @@ class EntityWriter {
 };
 
 void AddEntities(DxfPairs& pairs, const EntityList& list, int colour, const Yield& yield) {
-  constexpr std::size_t entitiesBetweenYields = 120;  // under a thousand pairs
+  constexpr std::size_t entitiesBetweenYields = 80;  // under a thousand pairs, of solids too
   AddAll(pairs, {{0, "SECTION"}, {2, "ENTITIES"}});
   const EntityWriter write(pairs, colour);
   for (std::size_t i = 0; i < list.Entities.size() && pairs.Fits(); ++i) {
@@ -149,7 +149,7 @@ bool WriteDxf(const EntityList& list, const std::filesystem::path& fileName,
               const CalculationSettings& settings, Messages& messages, const Yield& yield) {
   const std::optional<std::string> text = DxfText(list, settings, yield);
   if (!text) {
-    messages.Show({.Text = "File is two large"});  // spelt so on purpose
+    messages.Show({.Text = std::string(FileTooLarge)});
     return false;
   }
   if (const std::error_code failed = WriteWholeFile(fileName, *text)) {

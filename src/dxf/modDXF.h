@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "model/modEntity.h"
 #include "model/modSettings.h"
@@ -14,6 +15,9 @@ class Messages;
 
 /// Called now and then during a long piece of work, so that a window can stay alive. May be empty.
 using Yield = std::function<void()>;
+
+/// What a user is told of a list that does not fit. Spelt so on purpose.
+inline constexpr std::string_view FileTooLarge = "File is two large";
 
 /// The whole text of the drawing file for `list`: header, tables, an empty block section, the entities. The
 /// old, minimal kind of file that cutting machines read. Inches, never scaled.

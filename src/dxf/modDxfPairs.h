@@ -19,7 +19,6 @@ class DxfPairs {
 
   void Reserve(std::size_t bytes) { text_.reserve(bytes); }
   [[nodiscard]] bool Fits() const { return count_ <= most_; }
-  [[nodiscard]] std::int64_t Count() const { return count_; }
   [[nodiscard]] std::string TakeText() { return std::move(text_); }
 
  private:

@@ -22,11 +22,6 @@ void PlaceFirstArc(ToothWork& work) {
   arc.EndAngle = Need(270 - h);
 }
 
-void Reduce(ToothArc& arc) {
-  arc.StartAngle = ReduceOnce(arc.StartAngle);
-  arc.EndAngle = ReduceOnce(arc.EndAngle);
-}
-
 void PutCenter(ToothArc& arc, Point from, Checked dx, Checked dy) {
   arc.CenterX = Need(from.X + dx);
   arc.CenterY = Need(from.Y + dy);
@@ -83,8 +78,8 @@ void LayDoubleRadius(ToothWork& work) {
   second.EndAngle = Need(360 - h - work.Saw.GulletInfo.BackAngle);
   BoundDoubleWidth(work.Saw.GulletInfo);
   TurnSecondArc(work, centres);
-  Reduce(first);
-  Reduce(second);
+  ReduceAngles(first);
+  ReduceAngles(second);
 }
 
 // --- triple radius
@@ -170,9 +165,9 @@ void LayTripleRadius(ToothWork& work) {
   BoundTripleWidth(work.Saw.GulletInfo);
   LayThirdArc(work);
   LaySecondArcBetween(work);
-  Reduce(work.Tooth.FirstArc);
-  Reduce(work.Tooth.SecondArc);
-  Reduce(work.Tooth.ThirdArc);
+  ReduceAngles(work.Tooth.FirstArc);
+  ReduceAngles(work.Tooth.SecondArc);
+  ReduceAngles(work.Tooth.ThirdArc);
 }
 
 void LowerChain(ToothWork& work, double depth, std::initializer_list<ToothArc*> arcs) {
@@ -194,16 +189,15 @@ double DepthOfArc(const ToothWork& work, const ToothArc& arc) {
   return Checked(work.TipHeight() - arc.CenterY + arc.Radius).OrZero();
 }
 
-double DoubleRadiusDepth(const ToothWork& work) { return DepthOfArc(work, work.Tooth.SecondArc); }
-double TripleRadiusDepth(const ToothWork& work) { return DepthOfArc(work, work.Tooth.ThirdArc); }
+double SecondArcDepth(const ToothWork& work) { return DepthOfArc(work, work.Tooth.SecondArc); }
+double ThirdArcDepth(const ToothWork& work) { return DepthOfArc(work, work.Tooth.ThirdArc); }
 
 void ApplyDoubleRadiusDepth(ToothWork& work) {
-  LowerChain(work, DoubleRadiusDepth(work), {&work.Tooth.FirstArc, &work.Tooth.SecondArc});
+  LowerChain(work, SecondArcDepth(work), {&work.Tooth.FirstArc, &work.Tooth.SecondArc});
 }
 
 void ApplyTripleRadiusDepth(ToothWork& work) {
-  LowerChain(work, TripleRadiusDepth(work),
-             {&work.Tooth.FirstArc, &work.Tooth.SecondArc, &work.Tooth.ThirdArc});
+  LowerChain(work, ThirdArcDepth(work), {&work.Tooth.FirstArc, &work.Tooth.SecondArc, &work.Tooth.ThirdArc});
 }
 
 double AddDoubleRadiusFigures(const ToothWork& work, double area) {

@@ -20,8 +20,8 @@ void PlaceTripleRadius(ToothWork& work);
 [[nodiscard]] double DepthOfArc(const ToothWork& work, const ToothArc& arc);
 
 // The rows of the two styles in the table of families.
-[[nodiscard]] double DoubleRadiusDepth(const ToothWork& work);
-[[nodiscard]] double TripleRadiusDepth(const ToothWork& work);
+[[nodiscard]] double SecondArcDepth(const ToothWork& work);
+[[nodiscard]] double ThirdArcDepth(const ToothWork& work);
 void ApplyDoubleRadiusDepth(ToothWork& work);
 void ApplyTripleRadiusDepth(ToothWork& work);
 [[nodiscard]] double AddDoubleRadiusFigures(const ToothWork& work, double area);

@@ -61,10 +61,8 @@ void LayFlatBottom(ToothWork& work) {
   second.CenterY = Need(round(Adjacent(r2, slope) + floor.End.Y));
   second.StartAngle = first.EndAngle;
   second.EndAngle = Need(360 - h - gullet.BackAngle);
-  for (ToothArc* arc : {&first, &second}) {
-    arc->StartAngle = ReduceOnce(arc->StartAngle);
-    arc->EndAngle = ReduceOnce(arc->EndAngle);
-  }
+  ReduceAngles(first);
+  ReduceAngles(second);
 }
 
 }  // namespace
@@ -74,7 +72,7 @@ void PlaceFlatBottom(ToothWork& work) {
 }
 
 void ApplyFlatBottomDepth(ToothWork& work) {
-  const double missing = Checked(work.Saw.GulletInfo.Depth - DoubleRadiusDepth(work)).OrZero();
+  const double missing = Checked(work.Saw.GulletInfo.Depth - SecondArcDepth(work)).OrZero();
   if (!(missing > 0)) return;
   const double run = TanSide(missing, work.Hook()).OrZero();
   LowerGullet(work, missing, run, {&work.Tooth.FirstArc, &work.Tooth.SecondArc});

@@ -102,9 +102,7 @@ void PlaceFrostNotch(ToothWork& work) {
     PlaceNotchFloor(work);
     const ToothLine& floor = work.Tooth.FrostBottomLine;
     if (floor.End.X < floor.Start.X) LeaveOutFloor(work);
-    ToothArc& arc = work.Tooth.FrostArc;
-    arc.StartAngle = ReduceOnce(arc.StartAngle);
-    arc.EndAngle = ReduceOnce(arc.EndAngle);
+    ReduceAngles(work.Tooth.FrostArc);
   });
 }
 
@@ -150,14 +148,10 @@ void RaiseFrostArc(ToothProfile& tooth, double rise) {
   tooth.GulletArc = tooth.FirstArc;
   ToothArc& arc = tooth.GulletArc;
   ToothLine& drop = tooth.DropLine;
-  const double height = Checked(drop.Start.Y - arc.CenterY - rise).OrZero();
-  const double reach = Root(arc.Radius * arc.Radius - height * height).OrZero();
-  const double slide = Checked(reach - (arc.CenterX - drop.Start.X)).OrZero();
   const double before = AngleFromLegs(drop.End.Y - arc.CenterY, arc.CenterX - drop.End.X).OrZero();
-  const double after = AngleFromLegs(height, reach).OrZero();
+  const RaisedArc raised = RaiseArcThrough(arc, drop.Start, rise);
+  const double after = AngleFromLegs(raised.Height, raised.Reach).OrZero();
   drop.End = drop.Start;
-  Let(arc.CenterX) = arc.CenterX + slide;
-  Let(arc.CenterY) = arc.CenterY + rise;
   Let(arc.StartAngle) = arc.StartAngle + (before - after);
   tooth.FirstArc = arc;
 }

@@ -26,23 +26,6 @@ double FootOfFace(const ToothWork& work) {
 
 }  // namespace
 
-double Sweep(const ToothArc& arc) {
-  if (arc.EndAngle < arc.StartAngle) return 360 - arc.StartAngle + arc.EndAngle;
-  return arc.EndAngle - arc.StartAngle;
-}
-
-Point StartOf(const ToothArc& arc) {
-  Point start;
-  PolarPoint(arc.Center(), start, arc.Radius, arc.StartAngle);
-  return start;
-}
-
-Point EndOf(const ToothArc& arc) {
-  Point end;
-  PolarPoint(arc.Center(), end, arc.Radius, arc.EndAngle);
-  return end;
-}
-
 double AreaAt(const ToothWork& work, const ToothArc& arc, Point start, Point end) {
   return work.Kit.SegmentArea(start, end, arc.Radius, Sweep(arc));
 }

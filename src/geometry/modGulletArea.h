@@ -4,11 +4,6 @@
 
 namespace tarnwick {
 
-/// Turn of an arc from its start to its end, degrees.
-[[nodiscard]] double Sweep(const ToothArc& arc);
-[[nodiscard]] Point StartOf(const ToothArc& arc);
-[[nodiscard]] Point EndOf(const ToothArc& arc);
-
 /// Area between `arc` and a chord that is taken from `start` to `end`, whatever the arc's own ends are.
 [[nodiscard]] double AreaAt(const ToothWork& work, const ToothArc& arc, Point start, Point end);
 

@@ -5,11 +5,11 @@
 
 namespace tarnwick {
 
-/// What each end of the band laps over: half of ten plate thicknesses and an eighth of an inch for an overlap
-/// join, else 0.
+/// What each end of the band laps over, in inches: half of (ten plate thicknesses + 1/8) for an overlap join,
+/// else 0.
 [[nodiscard]] double JoinAllowance(const PlaneKit& kit, const BandSaw& saw);
 
-/// Half the way from a tooth's tip to the next one.
+/// Half the way from a tooth's tip to the next one, in inches; 0 on failure.
 [[nodiscard]] double HalfPitchOf(const ToothProfile& tooth);
 
 /// Cuts the ends of the band: finds where a line square to the band, through the middle of the tooth, meets

@@ -46,10 +46,10 @@ void PlaceOShape(ToothWork& work) {
   arc.EndAngle = 270;
 }
 
-double OShapeDepth(const ToothWork& work) { return DepthOfArc(work, work.Tooth.FirstArc); }
+double FirstArcDepth(const ToothWork& work) { return DepthOfArc(work, work.Tooth.FirstArc); }
 
 void ApplyOShapeDepth(ToothWork& work) {
-  const double missing = Checked(work.Saw.GulletInfo.Depth - OShapeDepth(work)).OrZero();
+  const double missing = Checked(work.Saw.GulletInfo.Depth - FirstArcDepth(work)).OrZero();
   if (missing > 0) LowerGullet(work, missing, TanSide(missing, work.Hook()).OrZero(), {&work.Tooth.FirstArc});
 }
 

@@ -10,7 +10,7 @@ namespace tarnwick {
 /// The arc, from the face to the foot of its circle; its radius holds to half the pitch.
 void PlaceOShape(ToothWork& work);
 
-[[nodiscard]] double OShapeDepth(const ToothWork& work);
+[[nodiscard]] double FirstArcDepth(const ToothWork& work);
 void ApplyOShapeDepth(ToothWork& work);
 
 /// After the depth: floor, top, area and clearance angle. The gullet width, measured from the circle's left

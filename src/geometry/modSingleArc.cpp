@@ -8,15 +8,11 @@
 namespace tarnwick {
 namespace {
 
-/// Raises the arc by `rise`. The face then runs into the circle at the seat's end instead of touching it.
+/// Raises the arc. The face then runs into the circle at the seat's end instead of touching it.
 void RaiseArc(ToothWork& work, double rise) {
   ToothArc& arc = work.Tooth.GulletArc;
   const Point seat = work.Tooth.SeatLine.End;
-  const double height = Checked(seat.Y - arc.CenterY - rise).OrZero();
-  const double reach = Root(arc.Radius * arc.Radius - height * height).OrZero();
-  const double slide = Checked(reach - (arc.CenterX - seat.X)).OrZero();
-  Let(arc.CenterX) = arc.CenterX + slide;
-  Let(arc.CenterY) = arc.CenterY + rise;
+  RaiseArcThrough(arc, seat, rise);
   arc.StartAngle = work.Kit.DirectionFromCenter(arc.Center(), arc.Radius, seat);
 }
 

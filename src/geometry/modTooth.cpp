@@ -1,10 +1,10 @@
 #include "geometry/modTooth.h"
 
 #include "geometry/modBand.h"
+#include "geometry/modOneTooth.h"
 #include "geometry/modPitch.h"
 #include "geometry/modToothFamily.h"
 #include "geometry/modToothMoves.h"
-#include "geometry/modToothRounds.h"
 #include "variable/modVariable.h"
 
 namespace tarnwick {
@@ -38,10 +38,6 @@ void SettleWidth(BandSaw& saw) {
     saw.Width = 2;
   }
 }
-
-}  // namespace
-
-namespace {
 
 /// Narrow and O teeth cannot be variable.
 void DropVariablePitch(BandSaw& saw) {

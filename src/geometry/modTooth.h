@@ -13,8 +13,10 @@ class Messages;
 /// It changes `saw` in place: it derives `Pitch`, `NumTeeth` and `Width`, corrects what cannot be cut,
 /// silently, and fills in the derived fields; the user sees the corrected values afterwards. The returned
 /// list is empty when the style's measures are not all there: `Pitch`, `NumTeeth` and `FaceLength` are
-/// brought up to date all the same. Nothing fails: a statement that cannot be worked out is skipped. The few
-/// routines that report do so on `messages`.
+/// brought up to date all the same. A negative `NumTeeth` gives an empty list too, and nothing is touched
+/// then. Narrow and O teeth cannot be variable: their variable pitch data are reset, which a window has to
+/// show. Nothing fails: a statement that cannot be worked out is skipped. The few routines that report do so
+/// on `messages`.
 [[nodiscard]] EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages);
 
 /// One segment of a variable pitch band and one tooth more, for its picture on its own; no outline.

@@ -5,6 +5,7 @@
 #include "geometry/modFrost.h"
 #include "geometry/modNarrow.h"
 #include "geometry/modOShape.h"
+#include "geometry/modSetDepth.h"
 #include "geometry/modSingleArc.h"
 #include "geometry/modToothBack.h"
 
@@ -44,24 +45,32 @@ constexpr JoinElement JoinNarrow[] = {GulletArc, TopLine};
 constexpr JoinElement JoinOShape[] = {FirstArc, BottomLine, TopLine};
 constexpr JoinElement JoinFrost[] = {GulletArc, ThirdArc, SecondArc, FirstArc, BackArc, BackLine, TopLine};
 
+// One row a style, in the order of the members of ToothFamily. clang-format off keeps a row in two lines.
 // clang-format off
-//  measures     gullet                  least depth            depth                   back              top without   area                     join
 constexpr ToothFamily SquareBackTooth{
-    NeedsRadius, PlaceSingleArcAndDepth, SingleArcMinimumDepth, ApplySingleArcDepth,    &SharpFromGullet, nullptr,      AddSingleArcFigure,      JoinSquare};
+    NeedsRadius, PlaceSingleArcAndDepth, SingleArcMinimumDepth, ApplySingleArcDepth,
+    SetSingleArcDepth,  &SharpFromGullet, nullptr,     AddSingleArcFigure,     JoinSquare};
 constexpr ToothFamily RoundBackTooth{
-    NeedsRadius, PlaceSingleArcAndDepth, SingleArcMinimumDepth, ApplySingleArcDepth,    &FromGullet,      nullptr,      AddSingleArcFigure,      JoinRound};
+    NeedsRadius, PlaceSingleArcAndDepth, SingleArcMinimumDepth, ApplySingleArcDepth,
+    SetSingleArcDepth,  &FromGullet,      nullptr,     AddSingleArcFigure,     JoinRound};
 constexpr ToothFamily DoubleRadiusTooth{
-    NeedsTwo,    PlaceDoubleRadius,      DoubleRadiusDepth,     ApplyDoubleRadiusDepth, &FromSecond,      nullptr,      AddDoubleRadiusFigures,  JoinDouble};
+    NeedsTwo,    PlaceDoubleRadius,      SecondArcDepth,        ApplyDoubleRadiusDepth,
+    SetSecondArcDepth,  &FromSecond,      nullptr,     AddDoubleRadiusFigures, JoinDouble};
 constexpr ToothFamily TripleRadiusTooth{
-    NeedsThree,  PlaceTripleRadius,      TripleRadiusDepth,     ApplyTripleRadiusDepth, &FromThird,       nullptr,      AddTripleRadiusFigures,  JoinTriple};
+    NeedsThree,  PlaceTripleRadius,      ThirdArcDepth,         ApplyTripleRadiusDepth,
+    SetThirdArcDepth,   &FromThird,       nullptr,     AddTripleRadiusFigures, JoinTriple};
 constexpr ToothFamily FlatBottomTooth{
-    NeedsTwo,    PlaceFlatBottom,        DoubleRadiusDepth,     ApplyFlatBottomDepth,   &FromSecond,      nullptr,      AddFlatBottomFigures,    JoinFlat};
+    NeedsTwo,    PlaceFlatBottom,        SecondArcDepth,        ApplyFlatBottomDepth,
+    SetFlatBottomDepth, &FromSecond,      nullptr,     AddFlatBottomFigures,   JoinFlat};
 constexpr ToothFamily NarrowTooth{
-    NeedsRadius, PlaceSingleArcAndDepth, SingleArcMinimumDepth, ApplySingleArcDepth,    NoBack,           CloseNarrow,  AddNarrowFigures,        JoinNarrow};
+    NeedsRadius, PlaceSingleArcAndDepth, SingleArcMinimumDepth, ApplySingleArcDepth,
+    SetSingleArcDepth,  NoBack,           CloseNarrow, AddNarrowFigures,       JoinNarrow};
 constexpr ToothFamily OShapeTooth{
-    NeedsFirst,  PlaceOShape,            OShapeDepth,           ApplyOShapeDepth,       NoBack,           CloseOShape,  AddOShapeFigures,        JoinOShape};
+    NeedsFirst,  PlaceOShape,            FirstArcDepth,         ApplyOShapeDepth,
+    SetSingleArcDepth,  NoBack,           CloseOShape, AddOShapeFigures,       JoinOShape};
 constexpr ToothFamily FrostToothFamily{
-    NeedsFirst,  PlaceFrostGullet,       FrostDepth,            ApplyFrostDepth,        &FromFrost,       nullptr,      AddSingleArcFigure,      JoinFrost};
+    NeedsFirst,  PlaceFrostGullet,       FrostDepth,            ApplyFrostDepth,
+    SetFrostDepth,      &FromFrost,       nullptr,     AddSingleArcFigure,     JoinFrost};
 // clang-format on
 
 }  // namespace

@@ -39,6 +39,8 @@ struct ToothFamily {
   double (*MinimumDepth)(const ToothWork& work);
   /// Brings the gullet from there to GulletInfo.Depth.
   void (*ApplyDepth)(ToothWork& work);
+  /// Reshapes a finished tooth to a depth of its own, for a segment of different depths.
+  void (*SetDepth)(ToothWork& work, double depth);
   /// How the tooth rises to its top; nullptr for the styles that have no back.
   const ToothBack* Back;
   /// Without a back: lays the top from the next tip to the gullet, and takes the clearance angle from it.

@@ -45,14 +45,10 @@ void MoveArc(const Rounding& round, const ToothArc& arc, ToothArc& out, double d
   StoreArc(round, out, {arc.CenterX + dx, arc.CenterY + dy, arc.Radius, arc.StartAngle, arc.EndAngle});
 }
 
-/// Above 360 less 360 once, below 0 plus 360 once, then mirrored about `axis` by the difference to it.
+/// The angle on the other side of `axis`, as far from it.
 double MirrorAbout(double angle, double axis) {
   return angle > axis ? axis - (angle - axis) : axis + (axis - angle);
 }
-
-}  // namespace
-
-namespace {
 
 /// Moves everything but the top line and the join point.
 void MoveBody(const Rounding& round, const ToothProfile& in, ToothProfile& out, double dx, double dy) {

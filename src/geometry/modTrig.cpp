@@ -5,7 +5,6 @@
 namespace tarnwick {
 namespace {
 
-double Radians(double degrees) { return (degrees * Pi) / 180; }
 double Degrees(double radians) { return (radians * 180) / Pi; }
 
 /// Runs a helper's formula: a failed argument is handed on, the formula's own failure gives 0.
@@ -99,6 +98,28 @@ void PolarPoint(Point from, Point& out, Checked dist, Checked angle) {
   }
 }
 
+void ReduceAngles(ToothArc& arc) {
+  arc.StartAngle = ReduceOnce(arc.StartAngle);
+  arc.EndAngle = ReduceOnce(arc.EndAngle);
+}
+
+double Sweep(const ToothArc& arc) {
+  if (arc.EndAngle < arc.StartAngle) return 360 - arc.StartAngle + arc.EndAngle;
+  return arc.EndAngle - arc.StartAngle;
+}
+
+Point StartOf(const ToothArc& arc) {
+  Point start;
+  PolarPoint(arc.Center(), start, arc.Radius, arc.StartAngle);
+  return start;
+}
+
+Point EndOf(const ToothArc& arc) {
+  Point end;
+  PolarPoint(arc.Center(), end, arc.Radius, arc.EndAngle);
+  return end;
+}
+
 double PlaneKit::Distance(Point p, Point q) const {
   return RoundTo(Hypotenuse(std::abs(p.X - q.X), std::abs(p.Y - q.Y)).OrZero());
 }
@@ -134,7 +155,7 @@ double PlaneKit::NormalizeAngle(double angle) const {
     angle = std::fmod(angle, 360.0);  // as many turns as needed, at once; exact
     if (angle < 0) angle += 360;
   }
-  return angle;
+  return angle + 0.0;  // never -0
 }
 
 void PlaneKit::RoundPoint(Point& p) const { p = {RoundTo(p.X), RoundTo(p.Y)}; }
@@ -200,40 +221,52 @@ double PlaneKit::SegmentArea(Point start, Point end, double radius, double sweep
   return RoundTo(Checked(((r * arc) - ((r - rise) * chord)) * 0.5)).OrZero();
 }
 
-bool PlaneKit::MeetLines(ToothLine& a, double angleA, ToothLine& b, double angleB) const {
+namespace {
+
+/// From the end of one line to the end of another, as the last test found it.
+struct EndGap {
+  double Dx{}, Dy{};
+};
+
+/// Pushes the end of `b` on until it has passed line `a`, in Y first, then in X. False when the lines run
+/// apart.
+bool PushPast(const ToothLine& a, ToothLine& b, EndGap& gap) {
   constexpr int mostRounds = 11;
   constexpr double overshoot = 1.01;
-
   const double slopeA = Quotient(a.Start.Y - a.End.Y, a.End.X - a.Start.X).OrZero();
   const double slopeB = Quotient(b.End.Y - b.Start.Y, b.End.X - b.Start.X).OrZero();
   const double leanB = Quotient(b.End.X - b.Start.X, b.End.Y - b.Start.Y).OrZero();
-
-  // Push the end of b on until it has passed line a, in Y first, then in X.
-  double dx = 0, dy = 0;
   for (int round = 0; round < mostRounds; ++round) {
-    Let(dy) = b.End.Y - a.End.Y;
-    Let(dx) = a.End.X - b.End.X;
-    const double past = Checked(dy - dx * slopeA).OrZero();
-    if (past <= 0 && dx <= 0) return false;
+    Let(gap.Dy) = b.End.Y - a.End.Y;
+    Let(gap.Dx) = a.End.X - b.End.X;
+    const double past = Checked(gap.Dy - gap.Dx * slopeA).OrZero();
+    if (past <= 0 && gap.Dx <= 0) return false;
     if (past < 0) {
       const double step = std::abs(past) * overshoot;
       Shift(b.End, step * leanB, step);
-    } else if (dx < 0) {
-      const double step = -std::abs(dx) * overshoot;
+    } else if (gap.Dx < 0) {
+      const double step = -std::abs(gap.Dx) * overshoot;
       Shift(b.End, step, step * slopeB);
     } else {
       break;
     }
   }
+  return true;
+}
 
+}  // namespace
+
+bool PlaneKit::MeetLines(ToothLine& a, double angleA, ToothLine& b, double angleB) const {
+  EndGap gap;
+  if (!PushPast(a, b, gap)) return false;
   if (angleA == 180) {
     const double lean = std::abs(angleB - 270);
     const Checked back = TanSide(b.End.Y - a.End.Y, lean) + std::abs(a.End.X - b.End.X);
     Place(a.Start, a.End.X - back, a.End.Y);
   } else {
     // Law of sines in the triangle of the two ends and the meeting point.
-    const double base = Hypotenuse(dy, dx).OrZero();
-    const double atA = Checked(AngleFromLegs(dy, dx) - (180 - angleA)).OrZero();
+    const double base = Hypotenuse(gap.Dy, gap.Dx).OrZero();
+    const double atA = Checked(AngleFromLegs(gap.Dy, gap.Dx) - (180 - angleA)).OrZero();
     const double atMeeting = std::abs(angleB - angleA);
     const double atB = 180 - (atA + atMeeting);
     const double along = Quotient(Opposite(base, atB), std::sin(Radians(atMeeting))).OrZero();

@@ -33,13 +33,20 @@ void PolarPoint(Point from, Point& out, Checked dist, Checked angle);
 /// Stores a point as two statements: a coordinate that fails keeps what it held.
 void Place(Point& target, Checked x, Checked y);
 
-/// (dx, dy) further than `from`, unrounded: how chains of pieces are laid end to end.
+/// Moves a point by (dx, dy), unrounded, as two statements.
 void Shift(Point& target, Checked dx, Checked dy);
 
-/// Sum of two arcs' worth of turn: an angle above 360 loses 360 once, one below 0 gains it once. The outline
-/// routines reduce the angles of their arcs in this simple way, on purpose not by PlaneKit::NormalizeAngle,
-/// which rounds.
+/// An angle above 360 loses 360 once, one below 0 gains it once. The outline routines reduce the angles of
+/// their arcs in this simple way, on purpose not by PlaneKit::NormalizeAngle, which rounds.
 [[nodiscard]] double ReduceOnce(double angle);
+/// Both angles of an arc.
+void ReduceAngles(ToothArc& arc);
+
+/// Turn of an arc from its start to its end, degrees.
+[[nodiscard]] double Sweep(const ToothArc& arc);
+/// Its two ends; (0, 0) for an angle below 0, which has no direction here.
+[[nodiscard]] Point StartOf(const ToothArc& arc);
+[[nodiscard]] Point EndOf(const ToothArc& arc);
 
 /// The rest of the kit rounds as it goes, at the places of the calculation, and carries them.
 ///

@@ -41,8 +41,8 @@ enum class Failure : int {
 /// failures here.
 ///
 /// Plain doubles may be added, subtracted and multiplied before they meet a Checked: what overflows is
-/// infinite (or NaN) from then on and is caught where it becomes a Checked. Plain division is not safe in
-/// that way and is not used in the calculation.
+/// infinite (or NaN) from then on and is caught where it becomes a Checked. Plain division by a measure is
+/// not safe in that way and is not used in the calculation.
 class Checked {
  public:
   Checked(double value) noexcept  // a number is a statement's simplest expression, so it converts by itself

@@ -12,6 +12,8 @@ namespace tarnwick {
 /// coordinate hangs on it.
 inline constexpr double Pi = 3.14159265358979;
 
+[[nodiscard]] constexpr double Radians(double degrees) { return (degrees * Pi) / 180; }
+
 inline constexpr double InchesPerFoot = 12;
 
 /// The one rounding rule, at a fixed number of places.
@@ -37,12 +39,7 @@ class Rounding {
   /// `Let(target) = RoundTo(value)` in one step, for what is done to every number of a band: a value that
   /// failed to be a finite number leaves the target alone.
   void Store(double& target, double value) const noexcept {
-    const double shifted = (lift_ + value) * scale_;
-    if (std::abs(shifted) < WholeFrom) {
-      target = static_cast<double>(static_cast<std::int64_t>(shifted)) / scale_;
-    } else if (std::isfinite(value)) {
-      target = OfHuge(shifted);
-    }
+    if (std::isfinite(value)) target = (*this)(value);
   }
 
   /// Within a statement: a failed expression stays failed, a number is rounded.

@@ -12,6 +12,7 @@ void AppendEntities(EntityList& target, const EntityList& source, int memorySize
     return;
   }
   if (target.Entities.empty()) target.Header = source.Header;
+  target.Lost += source.Lost;
   target.Entities.insert(target.Entities.end(), source.Entities.begin(), source.Entities.end());
 }
 

@@ -68,7 +68,8 @@ struct ListHeader {
 struct EntityList {
   ListHeader Header;
   std::vector<Entity> Entities;
-  std::size_t Lost{};  // entities that found no room in a list sized for no teeth: counted, never drawn
+  std::size_t Lost{};  // entities that found no room in a list sized for a negative count of teeth: counted,
+                       // never drawn
 
   /// What a builder's running index came to.
   [[nodiscard]] std::size_t Count() const { return Entities.size() + Lost; }

@@ -11,8 +11,6 @@ namespace {
 
 constexpr int ExtentPlaces = 6;
 
-double Radians(double degrees) { return (degrees * Pi) / 180; }
-
 bool Within(double angle, double from, double to) { return angle >= from && angle <= to; }
 
 void Lower(double& limit, Checked value) {

@@ -7,9 +7,9 @@
 
 namespace tarnwick {
 
-/// The image of a record in a file: every field in order at its own width, without gaps; whole numbers and
-/// doubles little-endian, texts as their bytes. RecordImageSize bytes, and no byte or bit of a record is lost
-/// on the way there and back.
+// The image of a record in a file: every field in order at its own width, without gaps; whole numbers and
+// doubles little-endian, texts as their bytes. RecordImageSize bytes, and no byte or bit of a record is lost
+// on the way there and back.
 
 /// Appends the image of `saw`.
 void AppendRecord(std::string& out, const BandSaw& saw);

@@ -17,7 +17,7 @@ constexpr double CurrentVersion = 1.01;
 
 constexpr std::int16_t SavedInThisFormat = 2;
 
-// The trailing blanks keep the box as wide as its title.
+// The trailing blanks are meant.
 constexpr const char* NotABandSawFile = "Not a valid Band Saw File     ";
 constexpr const char* FileIsIncomplete = "File is incomplete. What could be read is shown.";
 

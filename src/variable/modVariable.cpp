@@ -9,9 +9,9 @@
 #include "geometry/modHandler.h"
 #include "geometry/modJoin.h"
 #include "geometry/modPieceList.h"
+#include "geometry/modSetDepth.h"
 #include "geometry/modToothBack.h"
 #include "geometry/modToothMoves.h"
-#include "variable/modToothDepthChange.h"
 
 namespace tarnwick {
 namespace {

@@ -11,8 +11,8 @@ namespace tarnwick {
 
 enum class VariablePitchAnswer { Allowed = 1, StyleNotAllowed = 2, TeethNotDivisible = 3 };
 
-/// Whether a band of this style and count can be variable: not a style without a back, and a count that 3, 4,
-/// 5, 6 or 7 divides.
+/// Whether a band of this style and count can be variable: not without a style nor with one that has no back,
+/// and a count that 3, 4, 5, 6 or 7 divides.
 [[nodiscard]] VariablePitchAnswer CanUseVariablePitch(int toothStyle, int numTeeth);
 
 /// The whole band, with teeth[0] holding the finished base tooth: in place of LayOutBand. `saw` gets the

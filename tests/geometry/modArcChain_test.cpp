@@ -8,7 +8,7 @@
 
 #include "geometry/modGulletArea.h"
 #include "geometry/modTooth.h"
-#include "geometry/modToothRounds.h"
+#include "geometry/modOneTooth.h"
 #include "support/Outline.h"
 #include "support/RandomDesigns.h"
 #include "support/Shapes.h"
@@ -282,8 +282,8 @@ TEST(ArcChainDepth, CountsFromTheTipToTheTopOfTheLastCircle) {
   bench.Tooth.SecondArc = {1, 4, 0.5, 0, 0};
   bench.Tooth.ThirdArc = {1, 3.5, 0.25, 0, 0};
   EXPECT_DOUBLE_EQ(DepthOfArc(bench.Work, bench.Tooth.SecondArc), 1.25);
-  EXPECT_DOUBLE_EQ(DoubleRadiusDepth(bench.Work), 1.25);
-  EXPECT_DOUBLE_EQ(TripleRadiusDepth(bench.Work), 1.5);
+  EXPECT_DOUBLE_EQ(SecondArcDepth(bench.Work), 1.25);
+  EXPECT_DOUBLE_EQ(ThirdArcDepth(bench.Work), 1.5);
 }
 
 struct DepthBench : Workbench {

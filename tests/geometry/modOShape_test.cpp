@@ -65,9 +65,9 @@ Workbench& OTooth(Workbench& bench, Flag seat, double depth) {
   return bench;
 }
 
-TEST(OShapeDepth, CountsFromTheTipToTheTopOfTheCircle) {
+TEST(FirstArcDepth, CountsFromTheTipToTheTopOfTheCircle) {
   Workbench bench;
-  EXPECT_DOUBLE_EQ(OShapeDepth(OTooth(bench, True, 0).Work), 1.5);
+  EXPECT_DOUBLE_EQ(FirstArcDepth(OTooth(bench, True, 0).Work), 1.5);
 }
 
 TEST(ApplyOShapeDepth, LowersTheArcBelowASeat) {

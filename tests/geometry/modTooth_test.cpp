@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "geometry/modToothRounds.h"
+#include "geometry/modOneTooth.h"
 #include "support/Designs.h"
 #include "support/Shapes.h"
 #include "support/Workbench.h"

@@ -14,7 +14,7 @@
 #include "geometry/modPitch.h"
 #include "geometry/modTooth.h"
 #include "geometry/modToothMoves.h"
-#include "geometry/modToothRounds.h"
+#include "geometry/modOneTooth.h"
 #include "support/CollectedMessages.h"
 #include "support/RandomDesigns.h"
 #include "variable/modVariable.h"

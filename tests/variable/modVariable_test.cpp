@@ -9,7 +9,7 @@
 #include "geometry/modBand.h"
 #include "geometry/modPitch.h"
 #include "geometry/modTooth.h"
-#include "geometry/modToothRounds.h"
+#include "geometry/modOneTooth.h"
 #include "support/Outline.h"
 #include "support/Pieces.h"
 #include "support/Shapes.h"

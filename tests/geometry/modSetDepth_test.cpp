@@ -1,4 +1,4 @@
-#include "variable/modToothDepthChange.h"
+#include "geometry/modSetDepth.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "geometry/modToothRounds.h"
+#include "geometry/modOneTooth.h"
 
 #include "geometry/modSingleArc.h"
 #include "geometry/modToothBack.h"

@@ -1,10 +1,11 @@
-#include "variable/modToothDepthChange.h"
+#include "geometry/modSetDepth.h"
 
 #include <initializer_list>
 
 #include "geometry/modArcChain.h"
 #include "geometry/modFrost.h"
 #include "geometry/modToothDepth.h"
+#include "geometry/modToothFamily.h"
 
 namespace tarnwick {
 namespace {
@@ -25,23 +26,11 @@ void MoveGulletAndBack(ToothWork& work, double depth, std::initializer_list<Toot
   MoveLine(work.Tooth.BackLine, -run, -depth);
 }
 
-void SetFlatBottomDepth(ToothWork& work, double depth) {
-  ToothProfile& tooth = work.Tooth;
-  const double missing = MissingDepth(work, tooth.SecondArc, depth);
-  const double run = TanSide(missing, work.Hook()).OrZero();
-  MoveGulletAndBack(work, missing, {&tooth.FirstArc, &tooth.SecondArc});
-  MoveLine(tooth.BottomLine, -run, -missing);
-}
-
 /// With a seat, a gullet shallower than its arc: the circle slides up through the seat's end.
 double SlideArcUp(ToothWork& work, double rise) {
   ToothArc& arc = work.Tooth.GulletArc;
   const Point seat = work.Tooth.SeatLine.End;
-  const double height = Checked((seat.Y - arc.CenterY) - rise).OrZero();
-  const double reach = Root(arc.Radius * arc.Radius - height * height).OrZero();
-  const double slide = Checked(reach - (arc.CenterX - seat.X)).OrZero();
-  Let(arc.CenterX) = arc.CenterX + slide;
-  Let(arc.CenterY) = arc.CenterY + rise;
+  const double slide = RaiseArcThrough(arc, seat, rise).Slide;
   work.Tooth.DropLine = {seat, seat};
   arc.StartAngle = work.Kit.Direction(arc.Center(), seat);
   return slide;
@@ -58,6 +47,27 @@ double ShortenDrop(ToothWork& work, double rise) {
   return run;
 }
 
+}  // namespace
+
+void SetSecondArcDepth(ToothWork& work, double depth) {
+  ToothProfile& tooth = work.Tooth;
+  MoveGulletAndBack(work, MissingDepth(work, tooth.SecondArc, depth), {&tooth.FirstArc, &tooth.SecondArc});
+}
+
+void SetThirdArcDepth(ToothWork& work, double depth) {
+  ToothProfile& tooth = work.Tooth;
+  MoveGulletAndBack(work, MissingDepth(work, tooth.ThirdArc, depth),
+                    {&tooth.FirstArc, &tooth.SecondArc, &tooth.ThirdArc});
+}
+
+void SetFlatBottomDepth(ToothWork& work, double depth) {
+  ToothProfile& tooth = work.Tooth;
+  const double missing = MissingDepth(work, tooth.SecondArc, depth);
+  const double run = TanSide(missing, work.Hook()).OrZero();
+  MoveGulletAndBack(work, missing, {&tooth.FirstArc, &tooth.SecondArc});
+  MoveLine(tooth.BottomLine, -run, -missing);
+}
+
 void SetSingleArcDepth(ToothWork& work, double depth) {
   ToothProfile& tooth = work.Tooth;
   const double missing = MissingDepth(work, tooth.GulletArc, depth);
@@ -70,28 +80,14 @@ void SetSingleArcDepth(ToothWork& work, double depth) {
   MoveLine(tooth.BackLine, run, rise);
 }
 
-}  // namespace
+void SetFrostDepth(ToothWork& work, double) { ApplyFrostDepth(work); }
 
 void SetToothDepth(ToothWork& work, double depth) {
-  ToothProfile& tooth = work.Tooth;
-  switch (work.Saw.ToothStyle) {
-    case DoubleRadius:
-      MoveGulletAndBack(work, MissingDepth(work, tooth.SecondArc, depth),
-                        {&tooth.FirstArc, &tooth.SecondArc});
-      break;
-    case TripleRadius:
-      MoveGulletAndBack(work, MissingDepth(work, tooth.ThirdArc, depth),
-                        {&tooth.FirstArc, &tooth.SecondArc, &tooth.ThirdArc});
-      break;
-    case FlatBottom:
-      SetFlatBottomDepth(work, depth);
-      break;
-    case FrostTooth:
-      ApplyFrostDepth(work);
-      break;
-    default:
-      SetSingleArcDepth(work, depth);
-      break;
+  const ToothFamily* family = FamilyOf(work.Saw.ToothStyle);
+  if (family != nullptr) {
+    family->SetDepth(work, depth);
+  } else {
+    SetSingleArcDepth(work, depth);
   }
 }
 
