@@ -106,7 +106,7 @@ class FirstWindow(Journey):
         screen.mouse("windowactivate", "--sync", window)
         picture = screen.settled()
         self.assertEqual(picture.columns(SAW, SOFT), [])
-        self.assertGreater(len(picture.columns(CENTRE)), 600)
+        self.assertGreater(len(picture.columns(CENTRE, 10)), 600)
         self.close(screen, program)
 
     def test_keeps_the_weight_of_lines_on_a_fine_screen(self):
