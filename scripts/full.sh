@@ -78,18 +78,25 @@ stage_second_computation() {
   local work=build/second-computation seed
   mkdir -p "$work"
   for seed in 1 2; do
-    /usr/bin/python3 -B tests/reference/random_designs.py "$seed" "$second_designs" |
-      /usr/bin/python3 -B tests/reference/tarnwick_reference.py --worked >"$work/$seed.jsonl" &
+    random_worked_bands "$seed" >"$work/$seed.jsonl" &
   done
   wait
   for seed in 1 2; do
+    # A computation that died has left fewer lines than were asked for.
+    [ "$(wc -l <"$work/$seed.jsonl")" -eq "$second_designs" ]
     TARNWICK_CLI=build/release/src/tarnwick-cli /usr/bin/python3 -B tests/worked_bands_test.py "$work/$seed.jsonl"
-    count "$(wc -l <"$work/$seed.jsonl")" 0
+    count "$second_designs" 0
   done
+}
+
+random_worked_bands() {
+  /usr/bin/python3 -B tests/reference/random_designs.py "$1" "$second_designs" |
+    /usr/bin/python3 -B tests/reference/tarnwick_reference.py --worked
 }
 
 stage_drawings() {
   build_preset release
+  build_preset dev --target tarnwick_dxf_reader
   local work=build/drawings designs=(samples/*.json)
   rm -rf "$work"
   mkdir -p "$work"
