@@ -109,4 +109,6 @@ stage_drawings() {
 stage_benchmarks() {
   build_preset bench
   build/bench/bench/tarnwick_bench --benchmark_min_time=0.01
+  build/bench/bench/tarnwick_qt_bench --benchmark_min_time=0.01
+  QT_QPA_PLATFORM=offscreen /usr/bin/python3 -B bench/start_bench.py build/bench/bench/tarnwick_start_window
 }

@@ -56,6 +56,8 @@ class QtCanvasTest : public QObject {
   void clearsToTheBackground();
   void drawsALineOnePixelWide_data();
   void drawsALineOnePixelWide();
+  void coversWholePixelsWithLevelAndUprightLines_data();
+  void coversWholePixelsWithLevelAndUprightLines();
   void drawsArcsAnticlockwise_data();
   void drawsArcsAnticlockwise();
   void drawsAWholeCircleWhenBothEndsAreOne();
@@ -85,6 +87,34 @@ void QtCanvasTest::drawsALineOnePixelWide() {
   const QImage picture = Drawn(ratio, [](Canvas& canvas) { Line(canvas, {10, 40.5}, {90, 40.5}); });
   QCOMPARE(InkedRows(picture, static_cast<int>(50 * ratio)), static_cast<int>(ratio));
   QCOMPARE(picture.pixelColor(static_cast<int>(50 * ratio), static_cast<int>(40.5 * ratio)), ToQt(Ink));
+}
+
+void QtCanvasTest::coversWholePixelsWithLevelAndUprightLines_data() {
+  QTest::addColumn<double>("ratio");
+  QTest::addColumn<int>("weight");
+  QTest::newRow("usual screen") << 1.0 << 1;
+  QTest::newRow("between") << 1.5 << 2;
+  QTest::newRow("fine screen") << 2.0 << 2;
+}
+
+// Wherever they lie: a line between two pixels would be grey and twice as wide.
+void QtCanvasTest::coversWholePixelsWithLevelAndUprightLines() {
+  QFETCH(double, ratio);
+  QFETCH(int, weight);
+  for (double place = 40; place < 41; place += 0.125) {
+    const QImage picture = Drawn(ratio, [&](Canvas& canvas) {
+      Line(canvas, {10, place}, {30, place});
+      Line(canvas, {place, 60}, {place, 20});
+    });
+    int inked = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      inked += picture.pixelColor(x, static_cast<int>(30 * ratio)) == ToQt(Ink) ? 1 : 0;
+    }
+    QCOMPARE(inked, weight);
+    QCOMPARE(InkedRows(picture, static_cast<int>(20 * ratio)), weight);
+    QVERIFY(HasStroke(picture, {place, 21}, Ink) && HasStroke(picture, {29, place}, Ink));
+    QCOMPARE(CountOf(picture, Ink) + CountOf(picture, Black), picture.width() * picture.height());
+  }
 }
 
 void QtCanvasTest::drawsArcsAnticlockwise_data() {

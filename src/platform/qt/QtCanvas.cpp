@@ -12,9 +12,9 @@
 namespace tarnwick {
 namespace {
 
-constexpr double CenterLineWeight = 0.6;  // of a saw line's: the saw is the loudest thing on the screen
-constexpr double SeenMargin = 8;          // pixels around the surface where strokes may still end
-constexpr double Flatness = 0.1;          // device pixels that a chord may lie beside its arc
+constexpr double CenterLineShare = 0.6;  // of a saw line's: the saw is the loudest thing on the screen
+constexpr double SeenMargin = 8;         // pixels around the surface where strokes may still end
+constexpr double Flatness = 0.1;         // device pixels that a chord may lie beside its arc
 constexpr double MostChords = 65536;
 
 QPointF ToQt(Spot spot) { return {spot.X, spot.Y}; }
@@ -37,15 +37,33 @@ std::optional<QLineF> Clipped(const QLineF& line, const QRectF& box) {
   return QLineF(line.pointAt(from), line.pointAt(to));
 }
 
-/// A level or upright line moved, by less than a device's pixel, to where it covers whole ones: it would be a
-/// grey pair of lines else.
-QLineF OnPixels(const QLineF& line, double ratio) {
-  const double odd =
-      std::fmod(std::round(ratio), 2) / 2;  // a line an odd number of pixels wide has one in its middle
-  const auto crisp = [=](double place) { return (std::round((place * ratio) - odd) + odd) / ratio; };
-  if (line.dy() == 0) return {line.x1(), crisp(line.y1()), line.x2(), crisp(line.y1())};
-  if (line.dx() == 0) return {crisp(line.x1()), line.y1(), crisp(line.x1()), line.y2()};
+bool IsUpright(const QLineF& line) { return line.dx() == 0; }
+bool IsLevel(const QLineF& line) { return line.dy() == 0; }
+
+/// The weight of a centre line in the device's pixels: a share of one, or whole ones.
+double CenterLineWeight(double ratio) {
+  const double weight = ratio * CenterLineShare;
+  return weight < 1 ? weight : std::floor(weight);
+}
+
+/// A level or upright line `weight` device pixels wide moved, by less than a pixel, to where it covers whole
+/// ones: it would be a grey pair of lines else.
+QLineF OnPixels(const QLineF& line, double ratio, double weight) {
+  const double half = std::fmod(std::ceil(weight), 2) / 2;  // an odd line has a pixel's middle in its own
+  const auto crisp = [=](double place) { return (std::round((place * ratio) - half) + half) / ratio; };
+  if (IsLevel(line)) return {line.x1(), crisp(line.y1()), line.x2(), crisp(line.y1())};
+  if (IsUpright(line)) return {crisp(line.x1()), line.y1(), crisp(line.x1()), line.y2()};
   return line;
+}
+
+/// The whole pixels that a level or upright line covers.
+QRectF Bar(const QLineF& line, double ratio) {
+  const double weight = std::max(1.0, std::round(ratio));
+  const auto edge = [&](double place) { return std::round((place * ratio) - (weight / 2)); };
+  const QPointF from(edge(std::min(line.x1(), line.x2())), edge(std::min(line.y1(), line.y2())));
+  const QPointF to(edge(std::max(line.x1(), line.x2())) + weight,
+                   edge(std::max(line.y1(), line.y2())) + weight);
+  return {from / ratio, to / ratio};
 }
 
 /// An ellipse by its box, in the angles of a surface: 0 to the right, anticlockwise for the eye.
@@ -81,6 +99,7 @@ PixelSize QtCanvas::Size() const { return {size_.width(), size_.height()}; }
 
 void QtCanvas::Clear(Colour background) {
   lines_.clear();
+  bars_.clear();
   painter_.fillRect(QRectF(QPointF(0, 0), size_), ToQt(background));
 }
 
@@ -96,7 +115,7 @@ void QtCanvas::SetPen(Colour colour, PenStyle style) {
     pen.setCapStyle(Qt::FlatCap);
     pen.setDashPattern({2, 2});
   } else if (style == PenStyle::DashDot) {
-    pen.setWidthF(ratio_ * CenterLineWeight);
+    pen.setWidthF(CenterLineWeight(ratio_));
     pen.setCapStyle(Qt::FlatCap);
     pen.setDashPattern({20, 6, 3, 6});
   }
@@ -105,8 +124,14 @@ void QtCanvas::SetPen(Colour colour, PenStyle style) {
 }
 
 void QtCanvas::Polyline(std::span<const Spot, 2> points) {
-  if (const auto line = Clipped(QLineF(ToQt(points[0]), ToQt(points[1])), seen_)) {
-    lines_.push_back(OnPixels(*line, ratio_));
+  const auto line = Clipped(QLineF(ToQt(points[0]), ToQt(points[1])), seen_);
+  if (!line) return;
+  if (style_ != PenStyle::Solid) {
+    lines_.push_back(OnPixels(*line, ratio_, painter_.pen().widthF()));
+  } else if (IsUpright(*line) || IsLevel(*line)) {
+    bars_.push_back(Bar(*line, ratio_));
+  } else {
+    lines_.push_back(*line);
   }
 }
 
@@ -157,9 +182,18 @@ void QtCanvas::Text(Spot topLeft, std::string_view text) {
 }
 
 void QtCanvas::Flush() {
-  if (lines_.empty()) return;
-  painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
+  if (!lines_.empty()) painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
   lines_.clear();
+  if (bars_.empty()) return;
+  const QPen pen = painter_.pen();
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(ToQt(colour_));
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.drawRects(bars_.data(), static_cast<int>(bars_.size()));
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setBrush(Qt::NoBrush);
+  painter_.setPen(pen);
+  bars_.clear();
 }
 
 // A chain of its own is one short path, without beads where its chords meet.

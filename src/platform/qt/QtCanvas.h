@@ -44,6 +44,7 @@ class QtCanvas final : public Canvas {
   Colour colour_ = White;
   PenStyle style_ = PenStyle::Solid;
   std::vector<QLineF> lines_;
+  std::vector<QRectF> bars_;  // level and upright lines, as the pixels that they cover
 };
 
 }  // namespace tarnwick

@@ -1,0 +1,58 @@
+// A window from nothing to its first paint, and gone again; start_bench.py measures how long that takes.
+//
+//   tarnwick_start_window empty            the toolkit's own empty main window
+//   tarnwick_start_window main [DESIGN]    ours; with a design, until that is painted
+
+#include <QApplication>
+#include <QMainWindow>
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/qt/DrawingSurface.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/QtClock.h"
+#include "platform/qt/QtMessages.h"
+#include "shell/CommandLine.h"
+#include "window/frmMain.h"
+
+namespace {
+
+/// Ends the process when the window has been painted.
+class EmptyWindow final : public QMainWindow {
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QMainWindow::paintEvent(event);
+    std::_Exit(EXIT_SUCCESS);
+  }
+};
+
+int RunEmpty(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  EmptyWindow window;
+  window.resize(1200, 800);
+  window.show();
+  return QApplication::exec();
+}
+
+int RunMain(int argc, char** argv) {
+  int ownName = 1;
+  QApplication application(ownName, argv);
+  tarnwick::SetUpApplication(application);
+  tarnwick::QtMessages messages;
+  tarnwick::QtClock clock;
+  const std::string design = tarnwick::CommandFile(argc - 1, argv + 1);
+  tarnwick::frmMain window({.CommandFile = design}, messages, clock);
+  const auto* surface = window.findChild<tarnwick::DrawingSurface*>("PicEditor");
+  QObject::connect(surface, &tarnwick::DrawingSurface::Painted, &window, [&] {
+    if (design.empty() || !window.windowTitle().startsWith("untitled")) std::_Exit(EXIT_SUCCESS);
+  });
+  window.show();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const bool empty = argc > 1 && std::strcmp(argv[1], "empty") == 0;
+  return empty ? RunEmpty(argc, argv) : RunMain(argc, argv);
+}
