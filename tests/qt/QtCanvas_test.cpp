@@ -66,6 +66,7 @@ class QtCanvasTest : public QObject {
   void cutsLinesFarOutsideWithoutBendingThem();
   void leavesGapsInDots();
   void drawsCentreLinesLighterThanTheSaw();
+  void keepsTheRhythmOfCentreLinesOnAFineScreen();
   void fillsPolygons();
   void writesTextInTheBoxItMeasured();
 };
@@ -204,6 +205,20 @@ void QtCanvasTest::drawsCentreLinesLighterThanTheSaw() {
   const int centre = picture.pixelColor(5, 40).green();
   QVERIFY2(centre > 100 && centre < 200, qPrintable(QString::number(centre)));
   QCOMPARE(picture.pixelColor(5, 20).green(), 255);
+}
+
+void QtCanvasTest::keepsTheRhythmOfCentreLinesOnAFineScreen() {
+  for (const double ratio : {1.0, 2.0, 3.0}) {
+    const QImage picture = Drawn(ratio, [](Canvas& canvas) {
+      canvas.SetPen(Ink, PenStyle::DashDot);
+      Line(canvas, {0, 40.5}, {100, 40.5});
+    });
+    const auto inked = [&](double x) { return test::NearestTo(picture, {x, 40.5}, Ink) < 140; };
+    // A dash of 20, a gap of 6, a dot of 3, a gap of 6: not quite three times.
+    int strokes = 0;
+    for (int x = 1; x < 100; ++x) strokes += inked(x) && !inked(x - 1) ? 1 : 0;
+    QVERIFY2(strokes >= 4 && strokes <= 6, qPrintable(QString::number(ratio)));
+  }
 }
 
 void QtCanvasTest::fillsPolygons() {

@@ -117,7 +117,8 @@ void QtCanvas::SetPen(Colour colour, PenStyle style) {
   } else if (style == PenStyle::DashDot) {
     pen.setWidthF(CenterLineWeight(ratio_));
     pen.setCapStyle(Qt::FlatCap);
-    pen.setDashPattern({20, 6, 3, 6});
+    const double unit = ratio_ / std::max(1.0, pen.widthF());  // a pattern counts in weights of the pen
+    pen.setDashPattern({20 * unit, 6 * unit, 3 * unit, 6 * unit});
   }
   painter_.setPen(pen);
   painter_.setBrush(Qt::NoBrush);
