@@ -155,6 +155,18 @@ bool Viewport::Scroll(int horizontal, int vertical) {
   return across != horizontal_ || down != vertical_;
 }
 
+void Viewport::BeginDrag(SurfacePoint place) {
+  dragFrom_ = place;
+  dragView_ = {horizontal_, vertical_, Scale()};
+}
+
+bool Viewport::DragTo(SurfacePoint place) {
+  // Reckoned from where the drag began, so that roundings on the way do not add up.
+  const double steps = BarStepsPerInch / displayScale_;
+  return Scroll(BarValue(dragView_.Horizontal - (place.X - dragFrom_.X) * steps),
+                BarValue(dragView_.Vertical - (place.Y - dragFrom_.Y) * steps));
+}
+
 bool Viewport::ZoomAbout(SurfacePoint place, double factor) {
   const double scale = Scale();
   const bool possible = factor > 1 ? scale < ZoomLimit() : factor > 0 && factor < 1 && scale > ZoomOutEnd;

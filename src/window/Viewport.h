@@ -73,6 +73,10 @@ class Viewport {
   /// ZoomIn and ZoomOut.
   bool ZoomAbout(SurfacePoint place, double factor);
 
+  /// The hand takes hold of the drawing at a place of the surface; from then on the drawing follows it.
+  void BeginDrag(SurfacePoint place);
+  bool DragTo(SurfacePoint place);
+
   // The zoom rectangle.
   /// None: the rectangle has no width or no height; nothing changed.
   enum class Gesture { None, Click, Zoomed };
@@ -110,6 +114,8 @@ class Viewport {
   double fullScale_ = 3.0;
   View lastView_, thisView_;
   SurfacePoint zoomFrom_, zoomTo_;
+  SurfacePoint dragFrom_;
+  View dragView_;  // as it was when the drawing was taken hold of
 };
 
 }  // namespace tarnwick

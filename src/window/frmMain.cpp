@@ -101,15 +101,10 @@ void frmMain::BindSurface() {
   connect(PicEditor_, &DrawingSurface::RectangleEnded, this, [this](SurfacePoint corner) {
     DrawIf(design_.View.EndRectangle(corner) == Viewport::Gesture::Zoomed);
   });
-  connect(PicEditor_, &DrawingSurface::DragBegun, this, [this](SurfacePoint place) {
-    heldAt_ = place;
-    heldView_ = {design_.View.Horizontal(), design_.View.Vertical(), design_.View.Scale()};
-  });
-  connect(PicEditor_, &DrawingSurface::DraggedTo, this, [this](SurfacePoint place) {
-    const double steps = 50 / display_.DisplayScale;
-    DrawIf(design_.View.Scroll(heldView_.Horizontal - qRound((place.X - heldAt_.X) * steps),
-                               heldView_.Vertical - qRound((place.Y - heldAt_.Y) * steps)));
-  });
+  connect(PicEditor_, &DrawingSurface::DragBegun, this,
+          [this](SurfacePoint place) { design_.View.BeginDrag(place); });
+  connect(PicEditor_, &DrawingSurface::DraggedTo, this,
+          [this](SurfacePoint place) { DrawIf(design_.View.DragTo(place)); });
   connect(PicEditor_, &DrawingSurface::WheelTurned, this, [this](SurfacePoint place, double notches) {
     DrawIf(design_.View.ZoomAbout(place, std::pow(WheelZoom, notches)));
   });

@@ -64,8 +64,6 @@ class frmMain final : public QMainWindow {
   Messages& messages_;
   Clock& clock_;
   OpenDesign design_;
-  View heldView_;  // as it was when the hand took hold of the drawing at heldAt_
-  SurfacePoint heldAt_;
 
   DrawingSurface* PicEditor_ = nullptr;
   QScrollBar* hscDisplay_ = nullptr;

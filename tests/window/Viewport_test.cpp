@@ -479,5 +479,30 @@ TEST(ViewWithoutASurface, FitsNothing) {
   EXPECT_EQ(Shown(view), (View{0, 0, 1}));
 }
 
+TEST(Dragging, MovesTheDrawingWithTheHand) {
+  Viewport view = OnTenByEight();
+  view.Scroll(100, -40);
+  view.BeginDrag({5, 4});
+  EXPECT_TRUE(view.DragTo({6, 3.5}));  // an inch to the right, half an inch up
+  EXPECT_EQ(view.Horizontal(), 100 - 50);
+  EXPECT_EQ(view.Vertical(), -40 + 25);
+}
+
+TEST(Dragging, BackToWhereItBeganChangesNothing) {
+  Viewport view = OnTenByEight();
+  view.BeginDrag({5, 4});
+  for (const double x : {5.003, 5.017, 5.123, 4.0}) view.DragTo({x, 4 - x / 3});
+  view.DragTo({5, 4});
+  EXPECT_EQ(view.Horizontal(), 0);
+  EXPECT_EQ(view.Vertical(), 0);
+}
+
+TEST(Dragging, TakesFewerStepsOnAScreenThatIsCalibratedLarger) {
+  Viewport view = OnTenByEight(1.25);
+  view.BeginDrag({0, 0});
+  view.DragTo({1, 0});
+  EXPECT_EQ(view.Horizontal(), -40);  // fifty to the inch, over 1.25
+}
+
 }  // namespace
 }  // namespace tarnwick
