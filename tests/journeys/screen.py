@@ -58,9 +58,10 @@ class Screen:
             raise
 
     def start_display(self, size):
-        """Starts the display under a free number; its name."""
+        """Starts the display under a free number; its name. Without -noreset it would start anew, and lose a program
+        that is just coming, whenever its last guest leaves."""
         readable, writable = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writable), "-screen", "0", size, "-nolisten", "tcp"],
+        self.start(["Xvfb", "-displayfd", str(writable), "-screen", "0", size, "-nolisten", "tcp", "-noreset"],
                    pass_fds=[writable])
         os.close(writable)
         with os.fdopen(readable) as answer:
