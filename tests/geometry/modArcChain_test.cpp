@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "geometry/modGulletArea.h"
-#include "geometry/modTooth.h"
 #include "geometry/modOneTooth.h"
+#include "geometry/modTooth.h"
 #include "support/Outline.h"
 #include "support/RandomDesigns.h"
 #include "support/Shapes.h"

@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
+#include "geometry/modOneTooth.h"
 #include "geometry/modPitch.h"
 #include "geometry/modTooth.h"
 #include "geometry/modToothMoves.h"
-#include "geometry/modOneTooth.h"
 #include "support/CollectedMessages.h"
 #include "support/RandomDesigns.h"
 #include "variable/modVariable.h"

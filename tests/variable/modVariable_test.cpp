@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "geometry/modBand.h"
+#include "geometry/modOneTooth.h"
 #include "geometry/modPitch.h"
 #include "geometry/modTooth.h"
-#include "geometry/modOneTooth.h"
 #include "support/Outline.h"
 #include "support/Pieces.h"
 #include "support/Shapes.h"
