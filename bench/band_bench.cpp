@@ -35,6 +35,17 @@ void CalculateRoundBackOnBothEdges(benchmark::State& state) {
   Calculate(state, design);
 }
 
+/// Of every style; the number is the style's.
+void CalculateStyle(benchmark::State& state) {
+  Calculate(state,
+            ResawBand(static_cast<ToothStyleNumber>(state.range(1)), static_cast<int>(state.range(0))));
+}
+
+void CalculateVariable(benchmark::State& state) {
+  Calculate(state, VariableBand(static_cast<ToothStyleNumber>(state.range(1)),
+                                static_cast<int>(state.range(0)) / 5));
+}
+
 void CopyDrawing(benchmark::State& state) {
   const EntityList list = DrawingOf(ResawBand(RoundBack, static_cast<int>(state.range(0))));
   MeasureCopy(state, list.Entities.data(), BytesOf(list));
@@ -52,6 +63,14 @@ void MeasureExtents(benchmark::State& state) {
 BENCHMARK(CalculateSquareBack)->Arg(UsualTeeth)->Arg(MostTeeth);
 BENCHMARK(CalculateRoundBack)->Arg(UsualTeeth)->Arg(MostTeeth);
 BENCHMARK(CalculateRoundBackOnBothEdges)->Arg(UsualTeeth)->Arg(MostTeeth);
+BENCHMARK(CalculateStyle)
+    ->ArgsProduct({{UsualTeeth, MostTeeth},
+                   {SquareBack, RoundBack, DoubleRadius, TripleRadius, FlatBottom, NarrowStyle, OShape,
+                    FrostTooth}})
+    ->ArgNames({"teeth", "style"});
+BENCHMARK(CalculateVariable)
+    ->ArgsProduct({{UsualTeeth, MostTeeth}, {RoundBack, TripleRadius, FrostTooth}})
+    ->ArgNames({"teeth", "style"});
 BENCHMARK(MeasureExtents)->Arg(UsualTeeth)->Arg(MostTeeth);
 BENCHMARK(CopyDrawing)->Arg(UsualTeeth)->Arg(MostTeeth);
 

@@ -19,8 +19,8 @@ class NobodyListens final : public Messages {
   Button Show(const Box& box) override { return box.Default; }
 };
 
-/// A resaw band of `teeth` teeth 1 3/4 in apart, long enough to hold them. A Square Back takes the same
-/// measures, the back radius left aside.
+/// A resaw band of `teeth` teeth 1 3/4 in apart, long enough to hold them. Every style takes of the measures
+/// what it needs.
 inline BandSaw ResawBand(ToothStyleNumber style, int teeth) {
   BandSaw saw;
   saw.ToothStyle = style;
@@ -33,7 +33,28 @@ inline BandSaw ResawBand(ToothStyleNumber style, int teeth) {
   saw.GulletInfo.Depth = 0.55;
   saw.GulletInfo.BackAngle = 16;
   saw.GulletInfo.BackRadius = 0.2;
+  saw.GulletInfo.Radius1 = 0.18;
+  saw.GulletInfo.Radius2 = 0.45;
+  saw.GulletInfo.Radius3 = style == TripleRadius ? 0.25 : 0;
+  saw.GulletInfo.Width = 0.6;
+  saw.GulletInfo.FrostRadius = 0.05;
+  saw.GulletInfo.FrostWidth = 0.12;
+  saw.GulletInfo.FrostHeight = 0.15;
+  saw.GulletInfo.FrostAngle = 25;
   saw.GeneralInfo.PlateThick = 0.042;
+  return saw;
+}
+
+/// The same with segments of five teeth of different pitch and depth.
+inline BandSaw VariableBand(ToothStyleNumber style, int segments) {
+  constexpr SegmentMeasures pitches = {1.65, 1.85, 1.75, 1.6, 1.9};
+  constexpr SegmentMeasures depths = {0.55, 0.6, 0.58, 0.56, 0.62};
+  BandSaw saw = ResawBand(style, 5 * segments);
+  saw.GeneralInfo.VariablePitch = True;
+  saw.GeneralInfo.NumVariables = 5;
+  saw.GeneralInfo.VarPitch = pitches;
+  saw.GeneralInfo.VariableDepth = True;
+  saw.GeneralInfo.VarDepth = depths;
   return saw;
 }
 

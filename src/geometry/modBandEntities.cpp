@@ -5,6 +5,8 @@
 namespace tarnwick {
 namespace {
 
+constexpr int PiecesPerTooth = 16;  // as many as a list makes room for; no style has them all
+
 void AddTooth(PieceList& list, const ToothProfile& tooth) {
   list.Add(tooth.FaceLine);
   list.Add(tooth.SeatLine);
@@ -22,6 +24,15 @@ void AddTooth(PieceList& list, const ToothProfile& tooth) {
   list.Add(tooth.BackLine);
   list.Add(tooth.BackArc);
   list.Add(tooth.TopLine);
+}
+
+/// How many entities a tooth makes. Asked of one in the middle of the band, which no cut has trimmed: a list
+/// that has to grow on the way is copied whole.
+std::size_t PiecesOf(const PlaneKit& kit, const ToothProfile& tooth) {
+  EntityList pieces;
+  PieceList list(kit, pieces, RoomFor(1, PiecesPerTooth));
+  AddTooth(list, tooth);
+  return pieces.Entities.size();
 }
 
 Point MovedAlong(Point p, double dx) { return {Checked(p.X + dx).OrZero(), p.Y}; }
@@ -76,11 +87,10 @@ EntityList BuildBandEntities(const PlaneKit& kit, const BandSaw& saw, const Teet
   const bool bothEdges = teeth.front().BothEdges != False;
   const int count = bothEdges ? (n + 1) * 2 : n + 1;
 
-  constexpr int piecesPerTooth = 16;
-  constexpr std::size_t usualPieces = 8;  // of a tooth; a list that has to grow is copied whole each time
+  constexpr std::size_t mostOutlineLines = 5;
   EntityList list;
-  list.Entities.reserve(teeth.size() * usualPieces);
-  PieceList pieces(kit, list, RoomFor(count, piecesPerTooth));
+  list.Entities.reserve(PiecesOf(kit, teeth[teeth.size() / 2]) * teeth.size() + mostOutlineLines);
+  PieceList pieces(kit, list, RoomFor(count, PiecesPerTooth));
   if (n >= 0) {
     for (const ToothProfile& tooth : teeth) AddTooth(pieces, tooth);
   }
