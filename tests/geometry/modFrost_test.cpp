@@ -37,6 +37,17 @@ struct FrostBench : Workbench {
   }
 };
 
+TEST(NotchFace, HasNoLengthWhenTheHeightIsThatOfSeatAndRadius) {
+  FrostBench bench;
+  bench.Saw.GulletInfo.FrostHeight = bench.Saw.SeatInfo.Height + bench.Saw.GulletInfo.FrostRadius;
+  PlaceFrostGullet(bench.Work);
+  const ToothLine& face = bench.Tooth.FrostFaceLine;
+  EXPECT_NEAR(face.Start.X, face.End.X, 1e-12);
+  EXPECT_NEAR(face.Start.Y, face.End.Y, 1e-12);
+  EXPECT_EQ(face.Start.X, 0.1);
+  EXPECT_EQ(face.Start.Y, 4.8);
+}
+
 // ---- the notch's measures
 
 struct MeasureRow {

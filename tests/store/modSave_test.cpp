@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "geometry/modTooth.h"
 #include "platform/CollectedMessages.h"
 #include "store/modImage.h"
 #include "support/TemporaryFolder.h"
@@ -84,6 +85,22 @@ TEST(OpenBandSaw, ReadsWhatWasSaved) {
   EXPECT_TRUE(OpenBandSaw(saw, folder / "a.bsw", messages));
   EXPECT_EQ(ImageOf(saw), ImageOf(saved));
   EXPECT_EQ(messages.Texts(), Texts{});
+}
+
+TEST(OpenBandSaw, KeepsTheStyleThatNoToothHas) {
+  const TemporaryFolder folder;
+  CollectedMessages messages;
+  BandSaw saw = SomeSaw();
+  saw.ToothStyle = 3;
+  ASSERT_FALSE(SaveBandSaw(saw, folder / "hole.bsw"));
+  BandSaw read;
+  ASSERT_TRUE(OpenBandSaw(read, folder / "hole.bsw", messages));
+  EXPECT_EQ(read.ToothStyle, 3);
+
+  (void)CalculateSaw(read, {}, messages);
+  EXPECT_EQ(read.ToothStyle, 3);
+  EXPECT_EQ(read.ContainsInfo.Teeth, False);
+  EXPECT_EQ(read.GulletInfo.FaceLength, 0);
 }
 
 TEST(OpenBandSaw, IsSilentAboutAFileThatCannotBeRead) {
