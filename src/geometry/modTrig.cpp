@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "model/modCircular.h"
+
 namespace tarnwick {
 namespace {
 
@@ -19,15 +21,15 @@ Checked Helper(Formula formula, Arguments... arguments) {
 }  // namespace
 
 Checked Opposite(Checked hyp, Checked angle) {
-  return Helper([](double h, double a) { return h * std::sin(Radians(a)); }, hyp, angle);
+  return Helper([](double h, double a) { return h * Sine(Radians(a)); }, hyp, angle);
 }
 
 Checked Adjacent(Checked hyp, Checked angle) {
-  return Helper([](double h, double a) { return h * std::cos(Radians(a)); }, hyp, angle);
+  return Helper([](double h, double a) { return h * Cosine(Radians(a)); }, hyp, angle);
 }
 
 Checked TanSide(Checked adj, Checked angle) {
-  return Helper([](double side, double a) { return side * std::tan(Radians(a)); }, adj, angle);
+  return Helper([](double side, double a) { return side * Tangent(Radians(a)); }, adj, angle);
 }
 
 Checked Hypotenuse(Checked a, Checked b) {
@@ -42,7 +44,7 @@ Checked AngleFromLegs(Checked opp, Checked adj) {
   return Helper(
       [](double o, double a) {
         const Checked tangent = Quotient(o, a);
-        return tangent.Ok() ? Checked(Degrees(std::atan(tangent.OrZero()))) : tangent;
+        return tangent.Ok() ? Checked(Degrees(Arctangent(tangent.OrZero()))) : tangent;
       },
       opp, adj);
 }
@@ -54,7 +56,7 @@ Checked AngleFromSides(Checked a, Checked b, Checked c) {
         const double k = Quotient(q * q + r * r - p * p, 2 * q * r).OrZero();
         const Checked tangent = Quotient(-k, Root(1 - k * k));
         if (!tangent.Ok()) return tangent;
-        return Degrees(std::atan(tangent.OrZero()) + 2 * std::atan(1.0));
+        return Degrees(Arctangent(tangent.OrZero()) + 2 * Arctangent(1.0));
       },
       a, b, c);
 }
@@ -269,7 +271,7 @@ bool PlaneKit::MeetLines(ToothLine& a, double angleA, ToothLine& b, double angle
     const double atA = Checked(AngleFromLegs(gap.Dy, gap.Dx) - (180 - angleA)).OrZero();
     const double atMeeting = std::abs(angleB - angleA);
     const double atB = 180 - (atA + atMeeting);
-    const double along = Quotient(Opposite(base, atB), std::sin(Radians(atMeeting))).OrZero();
+    const double along = Quotient(Opposite(base, atB), Sine(Radians(atMeeting))).OrZero();
     const double lean = 180 - angleA;
     Place(a.Start, a.End.X - Adjacent(along, lean), a.End.Y + Opposite(along, lean));
   }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 
 namespace tarnwick {
 namespace {
@@ -13,6 +14,14 @@ constexpr double CmPerInch = 2.54;
 constexpr double MmPerInch = 25.4;
 constexpr double MetresPerFoot = 0.3048;
 
+/// 10 raised to `exponent`. Exact up to 22, and the nearest double from -22 to -1, which not every platform's
+/// own power function is.
+double PowerOfTen(int exponent) {
+  double power = 1;
+  for (int i = std::abs(exponent); i > 0; --i) power *= 10;
+  return exponent < 0 ? 1 / power : power;
+}
+
 std::string Convert(std::string_view text, double factor, int places) {
   const double converted = RoundTo(Checked(ReadNumber(text) * factor).OrZero(), places);
   const std::string shown = DecimalText(converted);
@@ -21,7 +30,7 @@ std::string Convert(std::string_view text, double factor, int places) {
 
 }  // namespace
 
-Rounding::Rounding(int places) : scale_(std::pow(10.0, places)), lift_(0.05 / scale_) {}
+Rounding::Rounding(int places) : scale_(PowerOfTen(places)), lift_(0.05 / scale_) {}
 
 double Rounding::OfHuge(double shifted) const noexcept {
   const double result = shifted / scale_;
@@ -86,6 +95,25 @@ std::string DecimalText(double value) {
   if (text.front() != '-') text.insert(0, 1, ' ');
   if (text.compare(1, 2, "0.") == 0) text.erase(1, 1);
   return text;
+}
+
+std::string PlainText(double value) {
+  if (!std::isfinite(value)) return " 0";
+  std::string text = DecimalText(value);
+  const std::size_t mark = text.find('E');
+  if (mark == std::string::npos) return text;
+  const int exponent = static_cast<int>(ReadNumber(std::string_view(text).substr(mark + 1)));
+  std::string digits = text.substr(1, mark - 1);
+  std::erase(digits, '.');
+  const int before = exponent + 1;  // digits ahead of the point
+  if (before <= 0) {
+    digits.insert(0, static_cast<std::size_t>(-before), '0');
+    return text.front() + ('.' + digits);
+  }
+  const auto whole = static_cast<std::size_t>(before);
+  if (digits.size() < whole) digits.append(whole - digits.size(), '0');
+  if (digits.size() > whole) digits.insert(whole, 1, '.');
+  return text.front() + digits;
 }
 
 std::string InToCm(std::string_view text, int places) { return Convert(text, CmPerInch, places); }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <cmath>
+#include <concepts>
 #include <cstdint>
+#include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -75,6 +79,20 @@ void AppendGeneralText(std::string& out, double value);
 /// A plain number to text as fields, boxes and settings show it: a blank (or the minus sign) ahead, no zero
 /// before the point: " .125".
 [[nodiscard]] std::string DecimalText(double value);
+
+/// The same for a text that is read back as an equation, which knows no exponent: " .00001". An infinity or a
+/// NaN is " 0".
+[[nodiscard]] std::string PlainText(double value);
+
+/// `value` as a whole number of the type `Whole`: to the nearest, ties to the even one. nullopt when it lies
+/// beyond the type's range, or is no number.
+template <std::signed_integral Whole>
+[[nodiscard]] std::optional<Whole> WholeNumber(double value) {
+  const double nearest = std::nearbyint(value);
+  constexpr auto beyond = -static_cast<double>(std::numeric_limits<Whole>::min());  // exact: a power of two
+  if (!(nearest >= -beyond && nearest < beyond)) return std::nullopt;
+  return static_cast<Whole>(nearest);
+}
 
 /// Conversions between stored imperial measures and metric figures, text to text, at `places`
 /// (DecimalPlaces). Each reads by ReadNumber, multiplies, rounds, and gives decimal text without the leading

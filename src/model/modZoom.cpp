@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "model/modChecked.h"
+#include "model/modCircular.h"
 #include "model/modDecim.h"
 
 namespace tarnwick {
@@ -91,20 +92,20 @@ void Measure(const ArcEntity& arc, Extents& box) {
 double PolarX(double radius, double angle) {
   if (angle == 0 || angle == 360) return radius;
   if (angle == 180) return -radius;
-  if (Within(angle, 1, 89)) return radius * std::cos(Radians(angle));
-  if (Within(angle, 91, 179)) return -radius * std::cos(Radians(std::abs(angle - 180)));
-  if (Within(angle, 181, 269)) return -radius * std::cos(Radians(angle - 180));
-  if (Within(angle, 271, 359)) return radius * std::cos(Radians(std::abs(angle - 360)));
+  if (Within(angle, 1, 89)) return radius * Cosine(Radians(angle));
+  if (Within(angle, 91, 179)) return -radius * Cosine(Radians(std::abs(angle - 180)));
+  if (Within(angle, 181, 269)) return -radius * Cosine(Radians(angle - 180));
+  if (Within(angle, 271, 359)) return radius * Cosine(Radians(std::abs(angle - 360)));
   return 0;
 }
 
 double PolarY(double radius, double angle) {
   if (angle == 90) return radius;
   if (angle == 270) return -radius;
-  if (Within(angle, 1, 89)) return radius * std::sin(Radians(angle));
-  if (Within(angle, 91, 179)) return radius * std::sin(Radians(std::abs(angle - 180)));
-  if (Within(angle, 181, 269)) return -radius * std::sin(Radians(angle - 180));
-  if (Within(angle, 271, 359)) return -radius * std::sin(Radians(std::abs(angle - 360)));
+  if (Within(angle, 1, 89)) return radius * Sine(Radians(angle));
+  if (Within(angle, 91, 179)) return radius * Sine(Radians(std::abs(angle - 180)));
+  if (Within(angle, 181, 269)) return -radius * Sine(Radians(angle - 180));
+  if (Within(angle, 271, 359)) return -radius * Sine(Radians(std::abs(angle - 360)));
   return 0;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "model/modCharacters.h"
+
 namespace tarnwick {
 namespace {
 
@@ -19,6 +21,27 @@ std::optional<char> ByteOf(char32_t character) {
   const auto* const found = std::find(std::begin(FromHex80), std::end(FromHex80), character);
   if (character == 0 || found == std::end(FromHex80)) return std::nullopt;
   return static_cast<char>(0x80 + (found - std::begin(FromHex80)));
+}
+
+char32_t CharacterOf(unsigned char byte) {
+  constexpr unsigned char first = 0x80, last = 0x9F;
+  const bool moved = byte >= first && byte <= last;
+  const char32_t character = moved ? FromHex80[byte - first] : byte;
+  return character < ' ' || character == 0x7F ? U'?' : character;
+}
+
+/// None of the code page's characters takes more than three bytes.
+void AppendUtf8(std::string& utf8, char32_t character) {
+  if (character < 0x80) {
+    utf8 += static_cast<char>(character);
+  } else if (character < 0x800) {
+    utf8 += static_cast<char>(0xC0 | character >> 6);
+    utf8 += static_cast<char>(0x80 | (character & 0x3F));
+  } else {
+    utf8 += static_cast<char>(0xE0 | character >> 12);
+    utf8 += static_cast<char>(0x80 | (character >> 6 & 0x3F));
+    utf8 += static_cast<char>(0x80 | (character & 0x3F));
+  }
 }
 
 /// Takes the first character of a text that is not empty. Characters of four bytes count as no UTF-8: none of
@@ -48,6 +71,22 @@ std::optional<std::string> CodePageText(std::string_view utf8) {
     bytes += *byte;
   }
   return bytes;
+}
+
+std::string NearestCodePageText(std::string_view utf8) {
+  std::string bytes;
+  while (!utf8.empty()) {
+    const std::string_view character = utf8.substr(0, CharacterSize(utf8));
+    bytes += CodePageText(character).value_or("?");
+    utf8.remove_prefix(character.size());
+  }
+  return bytes;
+}
+
+std::string Utf8OfCodePage(std::string_view bytes) {
+  std::string utf8;
+  for (const char byte : bytes) AppendUtf8(utf8, CharacterOf(static_cast<unsigned char>(byte)));
+  return utf8;
 }
 
 }  // namespace tarnwick

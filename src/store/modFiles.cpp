@@ -5,6 +5,13 @@
 #include <memory>
 #include <utility>
 
+#ifdef _WIN32
+#include <io.h>
+#include <process.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace tarnwick {
 namespace {
 
@@ -42,13 +49,65 @@ std::error_code DeleteRegularFile(const std::filesystem::path& path) {
   return failed;
 }
 
-/// Closing is part of writing: a full disk may show only there.
-std::error_code WriteAndClose(OpenFile file, std::string_view bytes) {
+bool ReachesDisk(std::FILE* file) {
+  if (std::fflush(file) != 0) return false;
+#ifdef _WIN32
+  return _commit(_fileno(file)) == 0;
+#else
+  return fsync(fileno(file)) == 0;
+#endif
+}
+
+enum class Rest { Any, OnDisk };
+
+/// Closing is part of writing: a full disk may show only there. OnDisk: the bytes have left the computer's
+/// memory before the file is closed, as far as the platform can tell.
+std::error_code WriteAndClose(OpenFile file, std::string_view bytes, Rest rest) {
   errno = 0;
   std::error_code failed;
   if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) failed = LastError();
+  if (!failed && rest == Rest::OnDisk && !ReachesDisk(file.get())) failed = LastError();
   if (std::fclose(file.release()) != 0 && !failed) failed = LastError();
   return failed;
+}
+
+std::error_code WriteFile(const std::filesystem::path& path, std::string_view bytes, Rest rest) {
+  if (const std::error_code failed = DeleteRegularFile(path)) return failed;
+  errno = 0;
+  OpenFile file = Open(path, Access::Write);
+  if (!file) return LastError();
+  const std::error_code failed = WriteAndClose(std::move(file), bytes, rest);
+  if (failed) DeleteRegularFile(path);
+  return failed;
+}
+
+std::string ProcessName() {
+#ifdef _WIN32
+  return std::to_string(_getpid());
+#else
+  return std::to_string(getpid());
+#endif
+}
+
+/// The file that a chain of links leads to, whether it is there or not.
+std::filesystem::path EndOfLinks(std::filesystem::path path) {
+  constexpr int longestChain = 40;
+  std::error_code none;
+  for (int i = 0; i < longestChain && std::filesystem::is_symlink(path, none); ++i) {
+    const std::filesystem::path next = std::filesystem::read_symlink(path, none);
+    if (none) break;
+    path = path.parent_path() / next;
+  }
+  return path;
+}
+
+/// A file that comes in place of another is as open to others as that one was.
+void KeepPermissions(const std::filesystem::path& from, const std::filesystem::path& to) {
+  std::error_code ignored;
+  const auto permissions = std::filesystem::status(from, ignored).permissions();
+  if (!ignored && permissions != std::filesystem::perms::unknown) {
+    std::filesystem::permissions(to, permissions, ignored);
+  }
 }
 
 }  // namespace
@@ -84,12 +143,26 @@ FileBytes ReadStream(std::FILE* stream, std::size_t most) {
 }
 
 std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
-  if (const std::error_code failed = DeleteRegularFile(path)) return failed;
-  errno = 0;
-  OpenFile file = Open(path, Access::Write);
-  if (!file) return LastError();
-  const std::error_code failed = WriteAndClose(std::move(file), bytes);
-  if (failed) DeleteRegularFile(path);
+  return WriteFile(path, bytes, Rest::Any);
+}
+
+std::error_code ReplaceWholeFile(const std::filesystem::path& path, std::string_view bytes) {
+  using std::filesystem::file_type;
+  std::error_code ignored, failed;
+  const std::filesystem::path target = EndOfLinks(path);
+  const file_type type = std::filesystem::status(target, ignored).type();
+  if (type != file_type::regular && type != file_type::not_found) {
+    return std::make_error_code(type == file_type::directory ? std::errc::is_a_directory
+                                                             : std::errc::operation_not_supported);
+  }
+  std::filesystem::path beside = target;
+  beside += "." + ProcessName() + ".new";  // two programs that save at once do not meet
+  // On the disk before it takes the old file's name: a power cut finds the one or the other.
+  failed = WriteFile(beside, bytes, Rest::OnDisk);
+  if (failed) return failed;
+  KeepPermissions(target, beside);
+  std::filesystem::rename(beside, target, failed);
+  if (failed) DeleteRegularFile(beside);
   return failed;
 }
 

@@ -32,4 +32,9 @@ struct FileBytes {
 /// @return the failure with the platform's own number and words; none when every byte has arrived
 [[nodiscard]] std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
+/// The same for a file that must never be half there: `bytes` are written beside it and take its place in one
+/// step. After a failure the old file is as it was. A link is followed, and what it leads to replaced. What
+/// is no file, a folder or a device, is refused.
+[[nodiscard]] std::error_code ReplaceWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
 }  // namespace tarnwick
