@@ -1,0 +1,28 @@
+#pragma once
+
+#include "entry/YesNoDialog.h"
+#include "platform/HelpViewer.h"
+#include "platform/qt/QuestionWindow.h"
+
+class QRadioButton;
+
+namespace tarnwick {
+
+/// The window of a YesNoDialog.
+class frmBDialog final : public QuestionWindow {
+ public:
+  /// @param dialog  the question; holds the answer once the window is closed
+  frmBDialog(YesNoDialog& dialog, HelpViewer& help, QWidget* parent = nullptr);
+
+  void reject() override;
+
+ private:
+  void MakeAnswer();
+  void Choose();
+
+  YesNoDialog& dialog_;
+  QRadioButton* optYes_ = nullptr;
+  QRadioButton* optNo_ = nullptr;
+};
+
+}  // namespace tarnwick
