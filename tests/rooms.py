@@ -7,7 +7,7 @@ A file's rank shows in its name:
 
     figures      model/, mod*, and the ports (the files of platform/ itself)
     behaviours   every other name
-    windows      frm*, platform/qt/, main.cpp, and the tool that prints with Qt (pdf/)
+    windows      frm*, fra*, platform/qt/, main.cpp, and the tool that prints with Qt (pdf/)
 
 Refused are: an include of a higher rank; a Qt header outside the windows (and anywhere in cli/);
 another library's header in the core; an include of the command line's folder from outside it; and
@@ -30,7 +30,7 @@ def rank(file):
     """The rank of a path relative to src/."""
     folder = file.parts[0]
     name = file.name
-    if folder == "pdf" or name.startswith("frm") or name == "main.cpp" or file.parts[:2] == ("platform", "qt"):
+    if folder == "pdf" or name.startswith(("frm", "fra")) or name == "main.cpp" or file.parts[:2] == ("platform", "qt"):
         return WINDOWS
     if folder in ("model", "platform") or name.startswith("mod"):
         return FIGURES

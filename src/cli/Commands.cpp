@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/Calculation.h"
+#include "cli/Evaluation.h"
 #include "cli/JsonText.h"
 #include "cli/JsonWriter.h"
 #include "cli/Output.h"
@@ -99,7 +100,7 @@ ExitCode ForEachDesign(const Options& options, const std::function<Problem(const
     }
     if (!problem) continue;
     Tell(name, *problem);
-    outcome = ExitCode::SomeDesignFailed;
+    outcome = ExitCode::SomeFailed;
   }
   return outcome;
 }
@@ -126,12 +127,15 @@ ExitCode RunCommand(const Options& options) {
       return ForEachDesign(options,
                            [&](const std::string& name) { return WriteDesign(options, output, name); });
     }
+    case Command::Eval:
+      return PrintValues(options.Texts, options.Settings.DecimalPlaces);
   }
   return ExitCode::WrongUsage;
 }
 
 int RunTool(int argc, const char* const* argv) noexcept {
-  ExitCode outcome = ExitCode::SomeDesignFailed;
+  KeepLineEnds();
+  ExitCode outcome = ExitCode::SomeFailed;
   try {
     const std::variant<Options, ExitCode> asked = ParseOptions(argc, argv);
     const Options* options = std::get_if<Options>(&asked);

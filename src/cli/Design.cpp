@@ -1,12 +1,12 @@
 #include "cli/Design.h"
 
 #include <cctype>
-#include <filesystem>
 
 #include "cli/JsonReader.h"
 #include "cli/Options.h"
 #include "cli/Streams.h"
 #include "store/modFiles.h"
+#include "store/modPath.h"
 #include "store/modSave.h"
 
 namespace tarnwick::cli {
@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t MostJsonBytes = std::size_t{256} << 20;
 
 bool IsJsonName(const std::string& name) {
-  std::string extension = std::filesystem::path(name).extension().string();
+  std::string extension = PathText(FilePath(name).extension());
   for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   return extension == ".json";
 }
@@ -33,7 +33,7 @@ Design ReadJson(const FileBytes& file) {
 }
 
 Design ReadBsw(const std::string& name) {
-  const FileBytes file = ReadFile(name, BandSawFileSize);
+  const FileBytes file = ReadFile(FilePath(name), BandSawFileSize);
   if (file.Error) return Unreadable(file.Error);
   const BandSawBytes read = ReadBandSaw(file.Bytes);
   switch (read.State) {
@@ -56,7 +56,7 @@ Design ReadBsw(const std::string& name) {
 
 Design ReadDesign(const std::string& name) {
   if (name == StandardStream) return ReadJson(ReadStandardInput(MostJsonBytes + 1));
-  if (IsJsonName(name)) return ReadJson(ReadFile(name, MostJsonBytes + 1));
+  if (IsJsonName(name)) return ReadJson(ReadFile(FilePath(name), MostJsonBytes + 1));
   return ReadBsw(name);
 }
 

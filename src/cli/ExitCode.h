@@ -5,7 +5,7 @@ namespace tarnwick::cli {
 /// What the tool tells the shell.
 enum class ExitCode : int {
   AllDone = 0,  // messages of a calculation are no failure
-  SomeDesignFailed = 1,
+  SomeFailed = 1,
   WrongUsage = 2,
 };
 

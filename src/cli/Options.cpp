@@ -1,21 +1,33 @@
 #include "cli/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
+#include <memory>
+#include <string_view>
 
+#include "store/modCfg.h"
+#include "store/modUserStore.h"
 #include "version.h"
 
 namespace tarnwick::cli {
 namespace {
 
 constexpr const char* AboutDesigns =
-    "A DESIGN is a .bsw file, a .json file with one design as nested objects by the record's member names "
-    "(or an\n"
-    "object that holds them under \"saw\"), or - for the same JSON on standard input. In JSON a missing "
-    "field is\n"
-    "zero and an unknown one an error.\n\n"
+    "A DESIGN is a .bsw file, a .json file with one design as nested objects by the record's member\n"
+    "names (or an object that holds them under \"saw\"), or - for the same JSON on standard input.\n"
+    "In JSON a missing field is zero and an unknown one an error.\n\n"
     "Exit code: 0 all done, 1 some design failed (each is named on standard error, the others are done),\n"
     "2 wrong usage.";
+
+constexpr const char* DefaultsFlag = "--defaults";
+constexpr const char* EvalName = "eval";
+
+constexpr const char* AboutTexts =
+    "A TEXT is what may be typed into a box for a measure: 3/4, \"12 3/4 in\", \"5 ft 6 in\",\n"
+    "(10+2)/4, 1.5*2. Unit words are left out, not converted; feet and inches together become feet.\n"
+    "Each text prints one line, its number or the refusal.\n\n"
+    "Exit code: 0 all are numbers, 1 some text was refused, 2 wrong usage.";
 
 template <class Number>
 void AddSetting(CLI::App& app, const std::string& name, Number& value, const SettingRange& range,
@@ -36,7 +48,7 @@ void AddOptionsForAll(CLI::App& app, Options& options) {
   AddSetting(app, "--memory-size", settings.MemorySize, MemorySizeRange,
              "Most pairs of code and value that a drawing file may hold");
   AddSetting(app, "--dxf-color", settings.DxfSaveColor, DxfSaveColorRange, "Colour index of drawn entities");
-  app.add_flag("--defaults", options.DefaultSettings,
+  app.add_flag(DefaultsFlag, options.DefaultSettings,
                "Ignore the user's settings; what is given here still counts");
   app.set_version_flag("--version", "tarnwick-cli " + std::string(FullVersion), "Show the version and leave");
   app.set_help_flag("-h,--help", "Show this help and leave");
@@ -101,9 +113,34 @@ CLI::App& AddBsw(CLI::App& app, Options& options) {
   return bsw;
 }
 
+CLI::App& AddEval(CLI::App& app, Options& options) {
+  CLI::App& eval = *app.add_subcommand(EvalName, "Print the number that each text stands for");
+  AddOptionsForAll(eval, options);
+  eval.add_option("TEXT", options.Texts, "Texts, as they are typed into a box for a measure")
+      ->required()
+      ->type_name("");
+  eval.footer(AboutTexts);
+  return eval;
+}
+
+/// The arguments as the parser likes them: it would take an equation that begins with a minus for an option.
+/// A blank ahead hides the minus and means nothing in an equation.
+std::vector<std::string> ArgumentsOf(int argc, const char* const* argv) {
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  auto text = std::find(arguments.begin(), arguments.end(), EvalName);
+  for (; text != arguments.end(); ++text) {
+    if (text->size() > 1 && text->front() == '-' &&
+        std::string_view("0123456789.( ").find((*text)[1]) != std::string_view::npos) {
+      text->insert(0, 1, ' ');
+    }
+  }
+  std::reverse(arguments.begin(), arguments.end());  // it takes them from the back
+  return arguments;
+}
+
 /// What the parser cannot know: where the results of a command go.
 void CheckOutput(const Options& options) {
-  if (options.Asked == Command::Json) return;
+  if (options.Asked == Command::Json || options.Asked == Command::Eval) return;
   if (options.OutputFile.empty() && options.OutputFolder.empty()) {
     throw CLI::RequiredError("-o FILE or --out-dir DIR");
   }
@@ -123,10 +160,22 @@ std::string WrongUsageText(const CLI::App*, const CLI::Error& why) {
   return std::string("tarnwick-cli: ") + why.what() + "\nRun tarnwick-cli --help for more information.\n";
 }
 
+/// What counts where the command line says nothing: the user's settings, as the window program keeps them.
+CalculationSettings UsersSettings() {
+  Config config;
+  const std::unique_ptr<SettingsStore> store = UserSettingsStore();
+  return ReadConfig(config, *store) ? config.Calculation : CalculationSettings{};
+}
+
+bool AsksForDefaults(int argc, const char* const* argv) {
+  return std::any_of(argv, argv + argc, [](std::string_view argument) { return argument == DefaultsFlag; });
+}
+
 }  // namespace
 
 std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) {
   Options options;
+  if (!AsksForDefaults(argc, argv)) options.Settings = UsersSettings();
   CLI::App app("Tarnwick: designs of band saw blades, their figures and their drawings", "tarnwick-cli");
   AddOptionsForAll(app, options);
   app.require_subcommand(1);
@@ -136,8 +185,9 @@ std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) 
   AddDxf(app, options).callback([&options] { options.Asked = Command::Dxf; });
   AddSvg(app, options).callback([&options] { options.Asked = Command::Svg; });
   AddBsw(app, options).callback([&options] { options.Asked = Command::Bsw; });
+  AddEval(app, options).callback([&options] { options.Asked = Command::Eval; });
   try {
-    app.parse(argc, argv);
+    app.parse(ArgumentsOf(argc, argv));
     CheckOutput(options);
   } catch (const CLI::ParseError& why) {
     return Leave(app, why);

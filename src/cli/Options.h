@@ -9,7 +9,7 @@
 
 namespace tarnwick::cli {
 
-enum class Command { Json, Dxf, Svg, Bsw };
+enum class Command { Json, Dxf, Svg, Bsw, Eval };
 
 /// Name of a design or an output that stands for standard input or output.
 inline constexpr const char* StandardStream = "-";
@@ -17,7 +17,8 @@ inline constexpr const char* StandardStream = "-";
 /// What the command line asks for.
 struct Options {
   Command Asked{};
-  std::vector<std::string> Designs;  // as given, in the order given; one at least
+  std::vector<std::string> Designs;  // as given, in the order given; one at least (but of eval)
+  std::vector<std::string> Texts;    // eval: the equations, in the order given; one at least
   CalculationSettings Settings;
   bool DefaultSettings{};  // start from the defaults, whatever the user has set
 

@@ -3,6 +3,8 @@
 #include <system_error>
 #include <utility>
 
+#include "store/modPath.h"
+
 namespace tarnwick::cli {
 namespace {
 
@@ -20,7 +22,7 @@ fs::path TrueName(const fs::path& path) {
 Output::Output(const Options& options, std::string extension)
     : options_(options), extension_(std::move(extension)) {
   for (const std::string& design : options.Designs) {
-    if (design != StandardStream) designs_.insert(TrueName(design));
+    if (design != StandardStream) designs_.insert(TrueName(FilePath(design)));
   }
   designs_.erase(fs::path());
 }
@@ -28,22 +30,22 @@ Output::Output(const Options& options, std::string extension)
 Problem Output::Claim(const std::string& design) {
   if (IsStandardOutput()) return {};
   const fs::path path = PathOf(design);
-  if (!claimed_.insert(path).second) return path.string() + " belongs to an earlier design";
-  if (designs_.contains(TrueName(path))) return path.string() + " is a design itself and is not overwritten";
+  if (!claimed_.insert(path).second) return PathText(path) + " belongs to an earlier design";
+  if (designs_.contains(TrueName(path))) return PathText(path) + " is a design itself and is not overwritten";
   return {};
 }
 
 fs::path Output::PathOf(const std::string& design) const {
-  if (!options_.OutputFile.empty()) return options_.OutputFile;
-  const fs::path name = design == StandardStream ? fs::path("standard-input") : fs::path(design).stem();
-  fs::path path = fs::path(options_.OutputFolder) / name;
+  if (!options_.OutputFile.empty()) return FilePath(options_.OutputFile);
+  const fs::path name = design == StandardStream ? fs::path("standard-input") : FilePath(design).stem();
+  fs::path path = FilePath(options_.OutputFolder) / name;
   path += extension_;
   return path;
 }
 
 Problem WriteProblem(const fs::path& path, const std::error_code& failed) {
   if (!failed) return {};
-  return path.string() + " cannot be written: " + failed.message();
+  return PathText(path) + " cannot be written: " + failed.message();
 }
 
 }  // namespace tarnwick::cli

@@ -11,24 +11,16 @@
 #endif
 
 namespace tarnwick::cli {
-namespace {
 
-/// Keeps the platform from changing line ends on their way.
-void MakeBinary([[maybe_unused]] std::FILE* stream) {
+void KeepLineEnds() {
 #ifdef _WIN32
-  _setmode(_fileno(stream), _O_BINARY);
+  for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
 #endif
 }
 
-}  // namespace
-
-FileBytes ReadStandardInput(std::size_t most) {
-  MakeBinary(stdin);
-  return ReadStream(stdin, most);
-}
+FileBytes ReadStandardInput(std::size_t most) { return ReadStream(stdin, most); }
 
 std::error_code WriteStandardOutput(std::string_view bytes) {
-  MakeBinary(stdout);
   errno = 0;
   if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0)
     return {};

@@ -7,7 +7,11 @@
 
 namespace tarnwick::cli {
 
-/// Standard input from where it stands, `most` bytes at most. Bytes are bytes on every platform.
+/// Keeps the platform from changing line ends on their way through the standard streams: bytes are bytes
+/// everywhere. To be called before anything else here.
+void KeepLineEnds();
+
+/// Standard input from where it stands, `most` bytes at most.
 [[nodiscard]] FileBytes ReadStandardInput(std::size_t most);
 
 /// Writes to standard output and waits until every byte is out.

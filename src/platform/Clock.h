@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 namespace tarnwick {
 
 /// Date and time of day where the user is.
@@ -11,11 +13,17 @@ struct LocalTime {
   int Minute{};
 };
 
-/// Port: what time it is.
+/// Port: what time it is, and letting some go by.
 class Clock {
  public:
   virtual ~Clock() = default;
   [[nodiscard]] virtual LocalTime Now() = 0;
+
+  /// Comes back when the time is over. Windows repaint meanwhile; clicks and keys wait.
+  virtual void Wait(std::chrono::milliseconds time) = 0;
 };
+
+/// A moment in which a pressed button is seen to come up.
+inline void Pause(Clock& clock) { clock.Wait(std::chrono::milliseconds(250)); }
 
 }  // namespace tarnwick

@@ -2,35 +2,53 @@
 
 #include "geometry/modTooth.h"
 #include "model/modZoom.h"
-#include "shell/modString.h"
+#include "store/modPath.h"
 #include "store/modSave.h"
 
 namespace tarnwick {
 
+void OpenDesign::ResetUnits() {
+  ImpMetric = Settings.MainImpMetric;
+  Saw.ImpMetric = ImpMetric;
+}
+
 void OpenDesign::ClearSaw() {
   Saw = {};
+  ResetUnits();
   Lines = {};
 }
 
+void OpenDesign::KeepAsSaved() {
+  SawEdit = Saw;
+  SawSaved = Saw;
+}
+
+void OpenDesign::ApplySettings() {
+  View.SetCalibration(Settings.Display.DisplayScale, Settings.Calculation.DecimalPlaces);
+}
+
 void OpenDesign::Recalculate(Messages& messages) {
-  Lines = CalculateSaw(Saw, Settings, messages);
+  Lines = CalculateSaw(Saw, Settings.Calculation, messages);
   View.FitScale(ComputeExtents(Lines));
+}
+
+bool OpenDesign::ReadFile(Messages& messages) {
+  ClearSaw();
+  if (!OpenBandSaw(Saw, FilePath(SawDir() + FileName), messages)) return false;
+  ImpMetric = Saw.ImpMetric;
+  Recalculate(messages);
+  ViewOneToOne();
+  KeepAsSaved();
+  return true;
 }
 
 bool OpenDesign::OpenNamedFile(const std::string& name, const std::string& folder, Messages& messages) {
   FileName = name;
-  SawDir = AddBackslash(folder);
-  ClearSaw();
-  const bool opened = OpenBandSaw(Saw, SawDir + FileName, messages);
-  if (opened) {
-    Recalculate(messages);
-    ViewOneToOne();
-  } else {
-    FileName = UntitledName;
-  }
-  SawEdit = Saw;
-  SawSaved = Saw;
-  return opened;
+  Settings.CurrentSawDir = AddBackslash(folder);
+  if (ReadFile(messages)) return true;
+  FileName = UntitledName;
+  KeepAsSaved();
+  return false;
 }
 
 bool OpenDesign::OpenPath(const std::string& path, Messages& messages) {

@@ -1,26 +1,19 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 namespace tarnwick {
 
-// Parts of a path, as texts. A folder always carries its trailing separator.
+// The texts that the windows show below the drawing, by number: 1 to 84 hint at the control under the mouse,
+// 100 to 104 name the editor that owns a figure, 200 and 201 turn the quick click display on and off.
+// Spellings are the system's own.
 
-#ifdef _WIN32
-inline constexpr char PathSeparator = '\\';
-#else
-inline constexpr char PathSeparator = '/';
-#endif
+inline constexpr int QuickOnHint = 35;
+inline constexpr int QuickOffHint = 36;
+inline constexpr int QuickOnText = 200;
+inline constexpr int QuickOffText = 201;
 
-/// `path` with one trailing separator. Up to three surplus ones are dropped; of more, some stay.
-[[nodiscard]] std::string AddBackslash(std::string_view path);
-
-/// What lies behind the last separator, provided that a dot stands in it: a name without an extension, and a
-/// path without a separator, give the empty text.
-[[nodiscard]] std::string FileNameOf(std::string_view path);
-
-/// What lies up to and including the last separator; empty when FileNameOf is.
-[[nodiscard]] std::string FolderOf(std::string_view path);
+/// The text of a number; empty for a number without one.
+[[nodiscard]] std::string_view NumberedText(int number);
 
 }  // namespace tarnwick

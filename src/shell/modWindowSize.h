@@ -20,4 +20,15 @@ struct WindowLimits {
   return {screenWidth > smallest.Width ? smallest : workArea, workArea};
 }
 
+/// What parts of the main window gain when it is wider than the smallest one, in device-independent pixels.
+struct LayoutShares {
+  double Status{};  // lblStatus beside lblHint
+  double Values{};  // value boxes and value column, out of the panel's own share
+  double Panel{};   // the panel at the right
+};
+
+/// Two fifths, a fifth and a quarter of the extra width, by the rounding rule at `places` in window units, of
+/// which a pixel has 15.
+[[nodiscard]] LayoutShares SharesOf(int width, int leastWidth, int places);
+
 }  // namespace tarnwick

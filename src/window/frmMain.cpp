@@ -1,147 +1,136 @@
 #include "window/frmMain.h"
 
-#include <QAction>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QKeySequence>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
+#include <QRadioButton>
 #include <QScreen>
-#include <QScrollBar>
-#include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QStatusBar>
+#include <QVBoxLayout>
 #include <QWindow>
 #include <chrono>
-#include <cmath>
 
-#include "platform/qt/DrawingSurface.h"
-#include "platform/qt/QtCanvas.h"
+#include "shell/modString.h"
 #include "shell/modTimeDate.h"
 #include "shell/modWindowSize.h"
-#include "window/modDraw.h"
+#include "window/fraDisplay.h"
+#include "window/fraGeneral.h"
+#include "window/fraMain.h"
+#include "window/fraToothShape.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr auto ClockStep = std::chrono::seconds(1);
-constexpr double WheelZoom = 1.25;  // of one notch: as far as one Zoom In
 
 WindowSize SizeOf(const QSize& size) { return {size.width(), size.height()}; }
 QSize ToQt(const WindowSize& size) { return {size.Width, size.Height}; }
 
 }  // namespace
 
-frmMain::frmMain(const Start& start, Messages& messages, Clock& clock)
-    : display_(start.Display), commandFile_(start.CommandFile), messages_(messages), clock_(clock) {
+frmMain::frmMain(Program& program, DialogHost& dialogs)
+    : program_(program), design_(program.Design), editors_(program, dialogs, *this) {
   setObjectName("frmMain");
-  design_.Settings = start.Calculation;
-  design_.View.SetCalibration(display_.DisplayScale, start.Calculation.DecimalPlaces);
-  MakeDrawing();
+  MakeCentre();
   MakeMenu();
   MakeStatusBar();
+  BindPanels();
+  ShowColours();
   ShowCaption();
+  ShowUnits();
+  fraMain_->ShowQuickClick(design_.Settings.QuickClick);
   FillWorkArea();
-  DrawIf(design_.ViewOneToOne());
+  ShowView(design_.ViewOneToOne());
+  ShowPanel(Panel::Main);
+  ShowSawInfo();
+  FillBoxes();
+  display_->setFocus();
+}
+
+/// What the parts say while they go would reach a window that is no longer one.
+frmMain::~frmMain() {
+  for (QObject* part : findChildren<QObject*>()) part->disconnect(this);
 }
 
 // ---- making
 
-void frmMain::MakeDrawing() {
+void frmMain::MakeCentre() {
   auto* centre = new QWidget(this);
   auto* grid = new QGridLayout(centre);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(0);
-  PicEditor_ = new DrawingSurface(centre);
-  PicEditor_->setObjectName("PicEditor");
-  PicEditor_->setAccessibleName(tr("Drawing of the band"));
-  PicEditor_->setAccessibleDescription(tr(
-      "Arrow keys and page keys move the drawing. A rectangle pulled with the mouse is enlarged, the wheel "
-      "zooms, the middle button drags."));
-  hscDisplay_ = new QScrollBar(Qt::Horizontal, centre);
-  hscDisplay_->setObjectName("hscDisplay");
-  hscDisplay_->setAccessibleName(tr("Move along the band"));
-  vscDisplay_ = new QScrollBar(Qt::Vertical, centre);
-  vscDisplay_->setObjectName("vscDisplay");
-  vscDisplay_->setAccessibleName(tr("Move across the band"));
-  grid->addWidget(PicEditor_, 0, 0);
-  grid->addWidget(vscDisplay_, 0, 1);
-  grid->addWidget(hscDisplay_, 1, 0);
+  display_ = new fraDisplay(design_, centre);
+  grid->addWidget(display_, 0, 0);
+  grid->addWidget(MakePanels(), 0, 1);
+  grid->addWidget(MakeHintStrip(), 1, 0, 1, 2);
+  grid->setColumnStretch(0, 1);
+  grid->setRowStretch(0, 1);
   setCentralWidget(centre);
-  PicEditor_->setFocus();
-  BindBars();
-  BindSurface();
 }
 
-void frmMain::BindBars() {
-  for (QScrollBar* bar : {hscDisplay_, vscDisplay_}) {
-    bar->setRange(-Viewport::BarLimit, Viewport::BarLimit);
-    bar->setSingleStep(Viewport::LineStep);
-    bar->setFocusPolicy(Qt::StrongFocus);
-    connect(bar, &QScrollBar::valueChanged, this,
-            [this] { DrawIf(design_.View.Scroll(hscDisplay_->value(), vscDisplay_->value())); });
+/// One panel shows at a time; the units stand below whichever does.
+QWidget* frmMain::MakePanels() {
+  panelColumn_ = new QWidget(this);
+  auto* column = new QVBoxLayout(panelColumn_);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  panels_ = new QStackedWidget(panelColumn_);
+  fraMain_ = new fraMain(panels_);
+  fraToothShape_ = new fraToothShape(panels_);
+  fraGeneral_ = new fraGeneral(panels_);
+  for (QWidget* panel : {static_cast<QWidget*>(fraMain_), static_cast<QWidget*>(fraToothShape_),
+                         static_cast<QWidget*>(fraGeneral_)}) {
+    panels_->addWidget(panel);
   }
+  column->addWidget(panels_, 1);
+  column->addWidget(MakeUnits());
+  return panelColumn_;
 }
 
-void frmMain::BindSurface() {
-  PicEditor_->SetRectangleColour(ToQt(display_.ZoomWindowColor));
-  PicEditor_->SetDrawing(
-      [this](Canvas& canvas) { DrawSaw(design_.Lines, design_.View.CurrentMapping(), canvas, display_); });
-  connect(PicEditor_, &DrawingSurface::Painted, this, &frmMain::BeginSoon);
-  connect(PicEditor_, &DrawingSurface::Resized, this, [this] {
-    design_.View.SetSurface(PicEditor_->SizeInInches());
-    ShowView();
-  });
-  connect(PicEditor_, &DrawingSurface::RectangleBegun, this,
-          [this](SurfacePoint corner) { design_.View.BeginRectangle(corner); });
-  connect(PicEditor_, &DrawingSurface::RectangleDragged, this,
-          [this](SurfacePoint corner) { design_.View.DragRectangle(corner); });
-  connect(PicEditor_, &DrawingSurface::RectangleEnded, this, [this](SurfacePoint corner) {
-    DrawIf(design_.View.EndRectangle(corner) == Viewport::Gesture::Zoomed);
-  });
-  connect(PicEditor_, &DrawingSurface::DragBegun, this,
-          [this](SurfacePoint place) { design_.View.BeginDrag(place); });
-  connect(PicEditor_, &DrawingSurface::DraggedTo, this,
-          [this](SurfacePoint place) { DrawIf(design_.View.DragTo(place)); });
-  connect(PicEditor_, &DrawingSurface::WheelTurned, this, [this](SurfacePoint place, double notches) {
-    DrawIf(design_.View.ZoomAbout(place, std::pow(WheelZoom, notches)));
-  });
-  connect(PicEditor_, &DrawingSurface::MoveAsked, this,
-          [this](Qt::Orientation bar, QAbstractSlider::SliderAction step) {
-            (bar == Qt::Horizontal ? hscDisplay_ : vscDisplay_)->triggerAction(step);
-          });
+QWidget* frmMain::MakeUnits() {
+  auto* units = new QWidget(panelColumn_);
+  units->setObjectName("fraUnits");
+  units->installEventFilter(this);
+  auto* row = new QHBoxLayout(units);
+  optImperial_ = new QRadioButton(tr("&Imperial"), units);
+  optImperial_->setObjectName("optImperial");
+  optImperial_->setAccessibleName(tr("Imperial"));
+  optMetric_ = new QRadioButton(tr("&Metric"), units);
+  optMetric_->setObjectName("optMetric");
+  optMetric_->setAccessibleName(tr("Metric"));
+  row->addStretch();
+  for (QRadioButton* option : {optImperial_, optMetric_}) {
+    option->installEventFilter(this);
+    row->addWidget(option);
+  }
+  row->addStretch();
+  connect(optImperial_, &QRadioButton::clicked, this, [this] { editors_.SetUnits(Imperial); });
+  connect(optMetric_, &QRadioButton::clicked, this, [this] { editors_.SetUnits(Metric); });
+  return units;
 }
 
-QAction* frmMain::AddItem(QMenu* menu, const char* name, const char* caption, const char* key) {
-  QAction* item = menu->addAction(tr(caption));
-  item->setObjectName(name);
-  item->setShortcut(QKeySequence(key));
-  item->setMenuRole(QAction::NoRole);
-  return item;
-}
-
-void frmMain::AddViewItem(QMenu* menu, const char* name, const char* caption, const char* key,
-                          std::function<bool()> command) {
-  connect(AddItem(menu, name, caption, key), &QAction::triggered, this,
-          [this, command = std::move(command)] { DrawIf(command()); });
-}
-
-void frmMain::MakeMenu() {
-  QMenu* file = menuBar()->addMenu(tr("&File"));
-  file->setObjectName("mnuFile");
-  connect(AddItem(file, "mnuItemExit", "E&xit"), &QAction::triggered, this, &QWidget::close);
-
-  QMenu* view = menuBar()->addMenu(tr("&View"));
-  view->setObjectName("mnuView");
-  OpenDesign& d = design_;
-  AddViewItem(view, "mnuItemAll", "View All", "Ctrl+A", [&d] { return d.ViewAll(); });
-  AddViewItem(view, "mnuItemFullScale", "View Full Scale 1/1", "Ctrl+F", [&d] { return d.ViewOneToOne(); });
-  AddViewItem(view, "mnuItemVarSegment", "View Variable Segment", "Ctrl+S", [&d] { return d.ViewSegment(); });
-  AddViewItem(view, "mnuItemLast", "Last View", "Ctrl+L", [&d] { return d.View.ShowLastView(); });
-  AddViewItem(view, "mnuItemIn", "Zoom In", "Ctrl+I", [&d] { return d.View.ZoomIn(); });
-  AddViewItem(view, "mnuItemOut", "Zoom Out", "Ctrl+O", [&d] { return d.View.ZoomOut(); });
+/// The line below the drawing that says what the control under the mouse is for.
+QWidget* frmMain::MakeHintStrip() {
+  hintStrip_ = new QWidget(this);
+  hintStrip_->setAutoFillBackground(true);
+  hintRow_ = new QGridLayout(hintStrip_);
+  hintRow_->setContentsMargins(6, 2, 6, 2);
+  lblStatus_ = new QLabel(hintStrip_);
+  lblStatus_->setObjectName("lblStatus");
+  lblStatus_->setAccessibleName(tr("Status"));
+  lblHint_ = new QLabel(hintStrip_);
+  lblHint_->setObjectName("lblHint");
+  lblHint_->setAccessibleName(tr("Hint"));
+  for (QLabel* label : {lblStatus_, lblHint_}) label->setTextFormat(Qt::PlainText);
+  lblHint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  hintRow_->addWidget(lblStatus_, 0, 0);
+  hintRow_->addWidget(lblHint_, 0, 1);
+  hintRow_->setColumnStretch(1, 1);
+  return hintStrip_;
 }
 
 /// A panel of the status bar: a text that is read, by eye or by ear, and never has the focus.
@@ -177,15 +166,41 @@ void frmMain::MakeStatusBar() {
   tmrClock_.start(ClockStep);
 }
 
+void frmMain::BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors::*cancel)()) {
+  connect(&panel, &FieldPanel::Pressed, this, [this](const PanelField& field) { editors_.ClickBox(field); });
+  connect(&panel, &FieldPanel::Typed, this, [this](const PanelField& field, const QString& text) {
+    editors_.TypeInto(field, text.toStdString());
+  });
+  connect(&panel, &FieldPanel::TypingEnded, this, [this] { FillBoxes(); });  // "12x" saws are 12
+  connect(&panel, &FieldPanel::Ticked, this, [this](bool ticked) { editors_.TickBothEdges(ticked); });
+  connect(&panel, &FieldPanel::Accepted, this, [this, ok] { (editors_.*ok)(); });
+  connect(&panel, &FieldPanel::Cancelled, this, [this, cancel] { (editors_.*cancel)(); });
+  connect(&panel, &FieldPanel::Hovered, this, &frmMain::ShowHint);
+  connect(&panel, &FieldPanel::ButtonHovered, this, [this](int text) { ShowStatus(NumberedText(text), ""); });
+}
+
+void frmMain::BindPanels() {
+  connect(display_, &fraDisplay::ViewChanged, this, [this] { ShowView(false); });
+  connect(display_, &fraDisplay::Painted, this, &frmMain::BeginSoon);
+  connect(display_, &fraDisplay::Hovered, this, [this] { ShowStatus("", ""); });
+  connect(fraMain_, &fraMain::RowPressed, this,
+          [this](const InfoRow& row) { editors_.PressRow(InfoRow(row)); });
+  connect(fraMain_, &fraMain::RowHovered, this, &frmMain::ShowHintOfRow);
+  connect(fraMain_, &fraMain::QuickClickAsked, this, &frmMain::TurnQuickClickOn);
+  BindEditor(*fraToothShape_, &Editors::PressToothOk, &Editors::PressToothCancel);
+  BindEditor(*fraGeneral_, &Editors::PressGeneralOk, &Editors::PressGeneralCancel);
+}
+
 // ---- starting
 
 void frmMain::FillWorkArea() {
   const QScreen* screen = QGuiApplication::primaryScreen();
   KeepWithin(*screen);
   setGeometry(screen->availableGeometry());
+  Arrange();
   layout()->activate();  // a window that is not shown yet lays out nothing unasked
   centralWidget()->layout()->activate();
-  design_.View.SetSurface(PicEditor_->SizeInInches());
+  display_->TakeSize();
 }
 
 void frmMain::KeepWithin(const QScreen& screen) {
@@ -220,38 +235,7 @@ void frmMain::BeginSoon() {
 
 void frmMain::BeginWork() {
   StayOnScreen();
-  if (commandFile_.empty()) return;
-  design_.OpenPath(commandFile_, messages_);
-  commandFile_.clear();
-  ShowCaption();
-  DrawIf(true);
-}
-
-// ---- showing
-
-void frmMain::ShowCaption() {
-  // "[*]" is a mark of the toolkit's unless it stands twice.
-  setWindowTitle(QString::fromStdString(design_.Caption()).replace("[*]", "[*][*]"));
-}
-
-/// Brings the controls to what the view is now, without their taking it for the user's doing.
-void frmMain::ShowView() {
-  const QSignalBlocker stillAcross(hscDisplay_), stillDown(vscDisplay_);
-  hscDisplay_->setPageStep(design_.View.PageStepAcross());
-  vscDisplay_->setPageStep(design_.View.PageStepDown());
-  hscDisplay_->setValue(design_.View.Horizontal());
-  vscDisplay_->setValue(design_.View.Vertical());
-  txtScale_->setText(QString::fromStdString(design_.View.ScaleText()));
-}
-
-void frmMain::ShowTimeDate() {
-  const QString text = QString::fromStdString(TimeDateText(clock_.Now()));
-  if (panTimeDate_->text() != text) panTimeDate_->setText(text);
-}
-
-void frmMain::DrawIf(bool changed) {
-  ShowView();
-  if (changed) PicEditor_->Redraw();
+  if (program_.OpenCommandFile()) ShowAll();
 }
 
 }  // namespace tarnwick

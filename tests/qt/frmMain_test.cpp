@@ -15,23 +15,18 @@
 #include <optional>
 
 #include "platform/qt/DrawingSurface.h"
+#include "platform/qt/QtDialogHost.h"
 #include "qt/Pixels.h"
 #include "store/modSave.h"
-#include "support/CollectedMessages.h"
 #include "support/Designs.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestProgram.h"
 
 namespace tarnwick {
 namespace {
 
 using test::HasStroke;
 using test::PlainDesign;
-
-class StoppedClock final : public Clock {
- public:
-  LocalTime Now() override { return Time; }
-  LocalTime Time{2026, 11, 21, 15, 5};
-};
 
 const DisplaySettings Display;
 
@@ -87,8 +82,8 @@ class frmMainTest : public QObject {
 
   std::unique_ptr<test::TemporaryFolder> folder_;
   std::string head_;  // path of a plain design
-  CollectedMessages say_;
-  StoppedClock clock_;
+  std::unique_ptr<test::TestProgram> program_;
+  std::unique_ptr<QtDialogHost> dialogs_;
   std::unique_ptr<frmMain> window_;
   DrawingSurface* PicEditor_ = nullptr;
   QScrollBar* hscDisplay_ = nullptr;
@@ -99,11 +94,13 @@ class frmMainTest : public QObject {
 void frmMainTest::init() {
   folder_ = std::make_unique<test::TemporaryFolder>();
   head_ = Stored("head.bsw", PlainDesign());
-  say_ = {};
+  program_ = std::make_unique<test::TestProgram>();
+  dialogs_ = std::make_unique<QtDialogHost>(program_->Help);
 }
 
 void frmMainTest::Open(const std::string& path) {
-  window_ = std::make_unique<frmMain>(frmMain::Start{.CommandFile = path}, say_, clock_);
+  program_->Start(path);
+  window_ = std::make_unique<frmMain>(program_->Process, *dialogs_);
   PicEditor_ = window_->findChild<DrawingSurface*>("PicEditor");
   hscDisplay_ = window_->findChild<QScrollBar*>("hscDisplay");
   vscDisplay_ = window_->findChild<QScrollBar*>("vscDisplay");
@@ -136,7 +133,7 @@ void frmMainTest::startsWithABlankDesign() {
   QCOMPARE(window_->windowTitle(), QString("untitled.bsw - Tarnwick"));
   QCOMPARE(txtScale_->text(), QString("1.0"));
   CompareView(Expected({}));
-  QVERIFY(say_.Shown.empty());
+  QVERIFY(program_->Say.Shown.empty());
   QCOMPARE(test::CountOf(Picture(), Display.SawLineColor), 0);
 }
 
@@ -151,11 +148,12 @@ void frmMainTest::opensTheNamedDesignOnce() {
   QApplication::sendEvent(window_.get(), &again);
   QTest::qWait(20);
   QCOMPARE(txtScale_->text(), scale);
-  QVERIFY(say_.Shown.empty());
+  QVERIFY(program_->Say.Shown.empty());
 }
 
 void frmMainTest::opensItWithoutBeingActivated() {
-  window_ = std::make_unique<frmMain>(frmMain::Start{.CommandFile = head_}, say_, clock_);
+  program_->Start(head_);
+  window_ = std::make_unique<frmMain>(program_->Process, *dialogs_);
   window_->setAttribute(Qt::WA_ShowWithoutActivating);
   window_->show();
   QTRY_COMPARE(window_->windowTitle(), QString("head.bsw - Tarnwick"));
@@ -164,7 +162,7 @@ void frmMainTest::opensItWithoutBeingActivated() {
 void frmMainTest::showsTheMessageOfARefusedFile() {
   const std::string path = folder_->File("list.bsw", "Shopping list").string();
   Open(path);
-  QVERIFY((say_.Texts() == std::vector<std::string>{"Not a valid Band Saw File     "}));
+  QVERIFY((program_->Say.Texts() == std::vector<std::string>{"Not a valid Band Saw File     "}));
   QCOMPARE(window_->windowTitle(), QString("untitled.bsw - Tarnwick"));
   CompareView(Expected({}));
   QVERIFY(std::filesystem::exists(path));
@@ -250,7 +248,7 @@ void frmMainTest::tellsTimeAndDate() {
   Open();
   const auto* panel = window_->findChild<QLineEdit*>("panTimeDate");
   QCOMPARE(panel->text(), QString("3:05 pm  Nov 21, 2026"));
-  clock_.Time.Minute = 6;
+  program_->Time.Time.Minute = 6;
   QTRY_COMPARE_WITH_TIMEOUT(panel->text(), QString("3:06 pm  Nov 21, 2026"), 3000);
 }
 

@@ -50,6 +50,12 @@ TEST(CommandLine, DropsWhatCannotBeRead) {
   EXPECT_EQ(CommandFileOf({""}), "");
 }
 
+TEST(CommandLine, NamesAFileInAnyScript) {
+  const TemporaryFolder folder;
+  const std::string path = PathText(folder.File("Weiß 木工.bsw", "x"));
+  EXPECT_EQ(CommandFileOf({path}), path);
+}
+
 TEST(CommandLine, IsEmptyWithoutArguments) { EXPECT_EQ(CommandFileOf({}), ""); }
 
 TEST(CommandLine, MakesARelativePathAbsolute) {

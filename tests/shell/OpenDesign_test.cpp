@@ -43,14 +43,22 @@ TEST_F(Open, StartsBlankAndUntitled) {
 TEST_F(Open, TakesNameFolderAndDesignFromAPath) {
   ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
   EXPECT_EQ(design_.FileName, "head.bsw");
-  EXPECT_EQ(std::filesystem::path(design_.SawDir) / "", folder_.Path() / "");
+  EXPECT_EQ(std::filesystem::path(design_.SawDir()) / "", folder_.Path() / "");
   EXPECT_EQ(design_.Caption(), "head.bsw - Tarnwick");
   EXPECT_TRUE(say_.Shown.empty());
 }
 
+TEST_F(Open, TakesANameInAnyScript) {
+  std::filesystem::create_directory(folder_ / "Säge 木");
+  const std::filesystem::path path =
+      folder_.File("Säge 木/Weiß.bsw", BandSawText(PlainDesign())).make_preferred();
+  ASSERT_TRUE(design_.OpenPath(PathText(path), say_));
+  EXPECT_EQ(design_.FileName, "Weiß.bsw");
+}
+
 TEST_F(Open, CalculatesTheDesignAndItsDrawing) {
   BandSaw expected = PlainDesign();
-  const EntityList drawing = CalculateSaw(expected, design_.Settings, say_);
+  const EntityList drawing = CalculateSaw(expected, design_.Settings.Calculation, say_);
   ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
   EXPECT_TRUE(SameSaw(design_.Saw, expected));
   EXPECT_EQ(design_.Lines.Count(), drawing.Count());

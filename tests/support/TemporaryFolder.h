@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "store/modPath.h"
+
 namespace tarnwick::test {
 
 /// A folder of its own for one test, gone with all in it at the end.
@@ -25,12 +27,14 @@ class TemporaryFolder {
     std::filesystem::remove_all(path_, ignored);
   }
 
-  [[nodiscard]] std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+  [[nodiscard]] std::filesystem::path operator/(std::string_view name) const {
+    return path_ / FilePath(name);
+  }
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
   /// A file of that name with those bytes.
   std::filesystem::path File(std::string_view name, std::string_view bytes) const {
-    const std::filesystem::path path = path_ / name;
+    const std::filesystem::path path = path_ / FilePath(name);
     std::ofstream(path, std::ios::binary) << bytes;
     return path;
   }

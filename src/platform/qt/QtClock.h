@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QDateTime>
-
 #include "platform/Clock.h"
 
 namespace tarnwick {
@@ -9,11 +7,8 @@ namespace tarnwick {
 /// The computer's clock, in the user's time zone.
 class QtClock final : public Clock {
  public:
-  [[nodiscard]] LocalTime Now() override {
-    const QDateTime now = QDateTime::currentDateTime();
-    const QDate date = now.date();
-    return {date.year(), date.month(), date.day(), now.time().hour(), now.time().minute()};
-  }
+  [[nodiscard]] LocalTime Now() override;
+  void Wait(std::chrono::milliseconds time) override;
 };
 
 }  // namespace tarnwick

@@ -1,11 +1,12 @@
 #include "platform/qt/QtMessages.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QString>
 #include <utility>
 #include <vector>
+
+#include "platform/qt/WindowInUse.h"
 
 namespace tarnwick {
 namespace {
@@ -50,15 +51,6 @@ QMessageBox::Icon IconOf(Icon icon) {
       return QMessageBox::Critical;
   }
   return QMessageBox::NoIcon;
-}
-
-/// The window that a box belongs to; none while the program has no window yet.
-QWidget* WindowInUse() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->windowType() == Qt::Window) return window;
-  }
-  return nullptr;
 }
 
 }  // namespace

@@ -1,0 +1,269 @@
+#include "platform/qt/FieldPanel.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/MeasureBox.h"
+#include "platform/qt/PanelWidth.h"
+#include "platform/qt/QtText.h"
+#include "shell/modString.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int RowGap = 3;
+constexpr int CaptionGap = 8;   // between a caption and its box
+constexpr int HeadingGap = 10;  // above a heading
+constexpr int FootGap = 8;
+constexpr int CaptionColumn = 0, BoxColumn = 1;
+constexpr double BoxShare = 0.46;  // of the least width
+
+QString Spoken(QString caption) { return caption.remove(':'); }
+
+/// "txtLength" has the caption "lblLength".
+QString CaptionName(std::string_view control) { return "lbl" + ToQt(control.substr(3)); }
+
+bool OpensSomething(const PanelField& field) {
+  return field.Act == BoxAct::Ask || field.Act == BoxAct::AskSeat;
+}
+
+bool IsTabStep(const QEvent* event) {
+  const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
+  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+}
+
+}  // namespace
+
+FieldPanel::FieldPanel(std::span<const PanelField> fields, Button ok, Button cancel, QWidget* parent)
+    : QWidget(parent) {
+  fields_ = new QScrollArea(this);
+  fields_->setFrameShape(QFrame::NoFrame);
+  fields_->setFocusPolicy(Qt::NoFocus);
+  fields_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  MakePage(fields);
+  fields_->setWidget(page_);
+  fields_->setWidgetResizable(true);
+
+  auto* edge = new QFrame(this);
+  edge->setFrameStyle(QFrame::HLine | QFrame::Plain);
+  edge->setForegroundRole(QPalette::Mid);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(fields_, 1);
+  column->addWidget(edge);
+  column->addLayout(MakeFoot(ok, cancel));
+  SetWidth(LeastWidth(), 0);
+}
+
+/// A box that loses the focus while the panel goes has nobody left to tell.
+FieldPanel::~FieldPanel() {
+  for (const Line& line : lines_) {
+    line.Box->disconnect(this);
+    line.Box->removeEventFilter(this);
+    if (line.Caption) line.Caption->removeEventFilter(this);
+  }
+  for (const Foot& button : buttons_) button.Pressed->removeEventFilter(this);
+}
+
+// ---- making
+
+void FieldPanel::MakePage(std::span<const PanelField> fields) {
+  page_ = new QWidget(fields_);
+  auto* grid = new QGridLayout(page_);
+  grid->setContentsMargins(PanelMargin, 0, PanelMargin, PanelMargin);
+  grid->setHorizontalSpacing(CaptionGap);
+  grid->setVerticalSpacing(RowGap);
+  grid->setColumnStretch(CaptionColumn, 1);
+  lines_.reserve(fields.size());
+  std::string_view group;
+  for (const PanelField& field : fields) {
+    if (field.Group != std::exchange(group, field.Group)) AddHeading(grid, field.Group);
+    AddLine(grid, field);
+  }
+  grid->setRowStretch(grid->rowCount(), 1);
+}
+
+QLayout* FieldPanel::MakeFoot(Button ok, Button cancel) {
+  foot_ = new QHBoxLayout;
+  foot_->setSpacing(FootGap);
+  foot_->addStretch();
+  buttons_ = {{MakeButton(ok, tr("&OK"), tr("OK")), ok.Hint},
+              {MakeButton(cancel, tr("&Cancel"), tr("Cancel")), cancel.Hint}};
+  connect(buttons_[0].Pressed, &QPushButton::clicked, this, &FieldPanel::Accepted);
+  connect(buttons_[1].Pressed, &QPushButton::clicked, this, &FieldPanel::Cancelled);
+  for (const Foot& button : buttons_) foot_->addWidget(button.Pressed);
+  return foot_;
+}
+
+QPushButton* FieldPanel::MakeButton(Button button, const QString& caption, const QString& spoken) {
+  auto* made = new QPushButton(caption, this);
+  made->setObjectName(button.Name);
+  made->setAccessibleName(spoken);
+  made->setAccessibleDescription(ToQt(NumberedText(button.Hint)));
+  made->installEventFilter(this);
+  return made;
+}
+
+void FieldPanel::AddHeading(QGridLayout* grid, std::string_view text) {
+  auto* heading = new QLabel(ToQt(text), page_);
+  heading->setTextFormat(Qt::PlainText);
+  QFont bold = heading->font();
+  bold.setBold(true);
+  heading->setFont(bold);
+  heading->setContentsMargins(0, HeadingGap, 0, 0);
+  grid->addWidget(heading, grid->rowCount(), CaptionColumn, 1, 2);
+}
+
+void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
+  const int row = grid->rowCount();
+  const bool isTicked = field.Act == BoxAct::Tick;
+  Line line{&field, isTicked ? nullptr : MakeCaption(field), MakeBox(field)};
+  line.Box->setObjectName(ToQt(field.Control));
+  line.Box->setAccessibleName(Spoken(ToQt(field.Caption)));
+  line.Box->setAccessibleDescription(ToQt(HintOfBox(field).Status));
+  line.Box->installEventFilter(this);
+  if (line.Caption) grid->addWidget(line.Caption, row, CaptionColumn);
+  grid->addWidget(line.Box, row, BoxColumn);
+  lines_.push_back(line);
+}
+
+QLabel* FieldPanel::MakeCaption(const PanelField& field) {
+  auto* caption = new QLabel(ToQt(field.Caption), page_);
+  caption->setObjectName(CaptionName(field.Control));
+  caption->setTextFormat(Qt::PlainText);
+  caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  caption->installEventFilter(this);
+  return caption;
+}
+
+QWidget* FieldPanel::MakeBox(const PanelField& field) {
+  if (field.Act == BoxAct::Tick) {
+    auto* box = new QCheckBox(ToQt(field.Caption), page_);
+    connect(box, &QCheckBox::clicked, this, &FieldPanel::Ticked);
+    return box;
+  }
+  if (field.Act == BoxAct::Type) {
+    auto* box = new QLineEdit(page_);
+    box->setMaxLength(field.MostCharacters);
+    box->setTextMargins(fontMetrics().horizontalAdvance(' '), 0, 0,
+                        0);  // as the measures, with a blank ahead
+    connect(box, &QLineEdit::textEdited, this,
+            [this, &field](const QString& text) { emit Typed(field, text); });
+    connect(box, &QLineEdit::editingFinished, this, &FieldPanel::TypingEnded);
+    return box;
+  }
+  auto* box = new MeasureBox(page_);
+  box->SetOpens(OpensSomething(field));
+  connect(box, &MeasureBox::Pressed, this, [this, &field] { emit Pressed(field); });
+  return box;
+}
+
+// ---- showing
+
+int FieldPanel::LeastWidth() const { return LeastPanelWidth(*this); }
+
+void FieldPanel::SetWidth(int panel, int more) {
+  const int bar = fields_->verticalScrollBar()->sizeHint().width();  // shown or not, nothing moves
+  setFixedWidth(panel);
+  page_->setFixedWidth(panel - bar);
+  foot_->setContentsMargins(PanelMargin, FootGap, PanelMargin + bar, FootGap);
+  int box = static_cast<int>(BoxShare * LeastWidth());
+  for (const Line& line : lines_) {
+    if (qobject_cast<QCheckBox*>(line.Box)) box = std::max(box, line.Box->sizeHint().width());
+  }
+  for (const Line& line : lines_) line.Box->setFixedWidth(box + more);
+}
+
+void FieldPanel::FillBoxes(const BandSaw& saw, const DisplayFormat& format) {
+  for (const Line& line : lines_) {
+    const QString text = ToQt(line.Field->Shown(saw, format));
+    if (auto* tick = qobject_cast<QCheckBox*>(line.Box)) {
+      tick->setChecked(!text.isEmpty());
+    } else if (auto* box = static_cast<QLineEdit*>(line.Box); box->text() != text) {
+      box->setText(text);
+      box->setCursorPosition(0);  // of a long text the beginning shows
+    }
+  }
+}
+
+void FieldPanel::ShowState(const PanelField& field, BoxState state) {
+  for (const Line& line : lines_) {
+    if (line.Field != &field) continue;
+    const bool opens = state == BoxState::Clickable && OpensSomething(field);
+    if (auto* box = qobject_cast<MeasureBox*>(line.Box)) box->SetOpens(opens);
+    for (QWidget* part : {static_cast<QWidget*>(line.Caption), line.Box}) {
+      if (!part) continue;
+      part->setVisible(state != BoxState::Hidden);
+      if (opens) part->setCursor(Qt::PointingHandCursor);
+    }
+    if (line.Caption && !opens) line.Caption->unsetCursor();
+  }
+}
+
+// ---- what is done to it
+
+const FieldPanel::Line* FieldPanel::LineOf(const QObject* control) const {
+  const auto found = std::find_if(lines_.begin(), lines_.end(), [control](const Line& line) {
+    return line.Caption == control || line.Box == control;
+  });
+  return found == lines_.end() ? nullptr : &*found;
+}
+
+bool FieldPanel::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Enter:
+      TellHover(watched, true);
+      break;
+    case QEvent::Leave:
+      TellHover(watched, false);
+      break;
+    case QEvent::FocusIn:
+      if (!IsTabStep(event)) break;  // a box that moved under the mouse would miss its release
+      TellHover(watched, true);
+      if (const Line* line = LineOf(watched)) fields_->ensureWidgetVisible(line->Box, 0, HeadingGap);
+      break;
+    case QEvent::FocusOut:
+      if (IsTabStep(event)) TellHover(watched, false);
+      break;
+    default:
+      break;
+  }
+  if (const Line* line = LineOf(watched); line && line->Caption == watched) PressCaption(*line, event);
+  return QWidget::eventFilter(watched, event);
+}
+
+void FieldPanel::TellHover(const QObject* control, bool isOver) {
+  if (const Line* line = LineOf(control)) emit Hovered(isOver ? line->Field : nullptr);
+  for (const Foot& button : buttons_) {
+    if (button.Pressed == control) emit ButtonHovered(isOver ? button.Hint : 0);
+  }
+}
+
+/// A caption is pressed like its box; that of a text leads into it.
+void FieldPanel::PressCaption(const Line& line, QEvent* event) {
+  if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease) return;
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  if (mouse->button() != Qt::LeftButton) return;
+  if (event->type() == QEvent::MouseButtonPress) {
+    held_ = line.Caption;
+    line.Box->setFocus(Qt::MouseFocusReason);
+  } else if (std::exchange(held_, nullptr) == line.Caption && line.Field->Act != BoxAct::Type &&
+             line.Caption->rect().contains(mouse->position().toPoint())) {
+    emit Pressed(*line.Field);
+  }
+}
+
+}  // namespace tarnwick

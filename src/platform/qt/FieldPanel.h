@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <span>
+#include <vector>
+
+#include "entry/modFormat.h"
+#include "window/modPanelField.h"
+
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QScrollArea;
+
+namespace tarnwick {
+
+/// A panel made of a table of fields: headings, captions, boxes in one column, OK and Cancel at the foot. It
+/// holds no value of its own and tells what is done to it.
+class FieldPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  ~FieldPanel() override;
+
+  /// Width at the smallest.
+  [[nodiscard]] int LeastWidth() const;
+  /// @param panel  the whole width
+  /// @param more   what the boxes get of it beyond their least
+  void SetWidth(int panel, int more);
+
+ signals:
+  void Pressed(const tarnwick::PanelField& field);  // a box or its caption
+  void Typed(const tarnwick::PanelField& field, const QString& text);
+  void TypingEnded();  // the focus goes elsewhere, or Enter
+  void Ticked(bool ticked);
+  void Accepted();
+  void Cancelled();
+  void Hovered(const tarnwick::PanelField* field);  // by mouse or Tab; nullptr: none
+  void ButtonHovered(int text);                     // OK or Cancel: its numbered hint; 0: none
+
+ protected:
+  struct Button {
+    const char* Name;
+    int Hint;  // its number
+  };
+  FieldPanel(std::span<const PanelField> fields, Button ok, Button cancel, QWidget* parent);
+
+  /// Writes what differs, and fires nothing.
+  void FillBoxes(const BandSaw& saw, const DisplayFormat& format);
+  void ShowState(const PanelField& field, BoxState state);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Line {
+    const PanelField* Field;
+    QLabel* Caption;  // none beside a check box
+    QWidget* Box;
+  };
+
+  struct Foot {
+    QPushButton* Pressed;
+    int Hint;
+  };
+
+  void AddHeading(QGridLayout* grid, std::string_view text);
+  void AddLine(QGridLayout* grid, const PanelField& field);
+  [[nodiscard]] QLabel* MakeCaption(const PanelField& field);
+  [[nodiscard]] QWidget* MakeBox(const PanelField& field);
+  void MakePage(std::span<const PanelField> fields);
+  [[nodiscard]] QLayout* MakeFoot(Button ok, Button cancel);
+  [[nodiscard]] QPushButton* MakeButton(Button button, const QString& caption, const QString& spoken);
+  [[nodiscard]] const Line* LineOf(const QObject* control) const;
+  void TellHover(const QObject* control, bool isOver);
+  void PressCaption(const Line& line, QEvent* event);
+
+  QScrollArea* fields_ = nullptr;
+  QWidget* page_ = nullptr;
+  QHBoxLayout* foot_ = nullptr;
+  std::vector<Line> lines_;
+  std::vector<Foot> buttons_;
+  QLabel* held_ = nullptr;  // the caption that the left button was pressed on
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,377 @@
+#include "shell/DocumentCommands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dxf/modDXF.h"
+#include "entry/StepByStep.h"
+#include "print/modText.h"
+#include "store/modFiles.h"
+#include "store/modPath.h"
+#include "store/modSave.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view OpenFilter = "Band Saw Files (*.bsw)|*.bsw";
+constexpr std::string_view SaveFilter = "All Files (*.bsw)|*.bsw";  // the word belongs to it
+constexpr std::string_view DxfFilter = "DXF Files (*.dxf)|*.dxf";
+constexpr std::string_view TextFilter = "Text Files (*.txt)|*.txt";
+
+constexpr std::string_view Extension = ".bsw";
+
+// Each command has its own words, and these spellings.
+constexpr std::string_view Changed = "     Bandsaw file has changed!";
+constexpr std::string_view ChangedForSteps = "     Bandaw file has changed!";
+constexpr std::string_view ChangedAtClose = "     Saw file has changed!";
+
+Box SaveQuestion(std::string_view changed) {
+  return {.Title = "Save File.",
+          .Text = std::string(changed) + "\n\nDo you want to save this file?              ",
+          .Offer = Buttons::YesNoCancel,
+          .Shown = Icon::Question,
+          .Default = Button::Yes};
+}
+
+Box AlreadyOpenQuestion() {
+  return {.Title = "File open!",
+          .Text = "     File already open!  Save file before opening?",
+          .Offer = Buttons::YesNoCancel,
+          .Default = Button::Yes};
+}
+
+Box ReplaceQuestion(const std::string& path) {
+  return {.Title = "Save",
+          .Text = path + "\nThis file already exists.\nDo you want to replace it?",
+          .Offer = Buttons::YesNo,
+          .Shown = Icon::Warning,
+          .Default = Button::No};
+}
+
+bool Contains(std::string_view text, std::string_view part) {
+  return text.find(part) != std::string_view::npos;
+}
+
+std::string LowerCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return text;
+}
+
+/// Where the name begins in a path, behind the last separator.
+std::size_t TitleStart(const std::string& path) {
+  const std::size_t last = path.rfind(PathSeparator);
+  return last == std::string::npos ? 0 : last + 1;
+}
+
+/// Anywhere in the path, in any case.
+bool HoldsDxf(const std::string& path) { return Contains(LowerCase(path), ".dxf"); }
+
+bool HasExtension(const std::string& path) { return Contains(path.substr(TitleStart(path)), "."); }
+
+std::string UpToFirstPoint(const std::string& name) { return name.substr(0, name.find('.')); }
+
+}  // namespace
+
+/// A command at work: the hourglass, and the animation of files. Both are gone in every way out of it.
+class DocumentCommands::Work {
+ public:
+  explicit Work(DocumentCommands& commands) : commands_(commands) {
+    commands_.busy_ = true;
+    commands_.desk_.Window.SetBusy(true);
+  }
+  Work(const Work&) = delete;
+  Work& operator=(const Work&) = delete;
+  ~Work() { End(); }
+
+  void ShowAnimation() {
+    animated_ = true;
+    commands_.desk_.Window.ShowAnimation();
+  }
+
+  void End() {
+    if (std::exchange(animated_, false)) commands_.desk_.Window.HideAnimation();
+    if (std::exchange(working_, false)) {
+      commands_.desk_.Window.SetBusy(false);
+      commands_.busy_ = false;
+    }
+  }
+
+ private:
+  DocumentCommands& commands_;
+  bool animated_ = false;
+  bool working_ = true;
+};
+
+// ---- questions
+
+/// Whether the design may be left: it is as saved, or saved now, or given up.
+bool DocumentCommands::MayLeave(std::string_view changed) {
+  if (SameSaw(Design().Saw, Design().SawSaved)) return true;
+  switch (Ask(SaveQuestion(changed))) {
+    case Button::Yes:
+      return SaveBeforeLeaving();
+    case Button::No:
+      return true;
+    case Button::Ok:
+    case Button::Cancel:
+      break;
+  }
+  return false;
+}
+
+bool DocumentCommands::MayOpenAgain() {
+  switch (Ask(AlreadyOpenQuestion())) {
+    case Button::Yes:
+      return SaveBeforeLeaving();
+    case Button::No:
+      return true;
+    case Button::Ok:
+    case Button::Cancel:
+      break;
+  }
+  return false;
+}
+
+bool DocumentCommands::MayReplace(const std::string& path) const {
+  return Ask(ReplaceQuestion(path)) == Button::Yes;
+}
+
+// ---- new
+
+void DocumentCommands::BeginBlank() {
+  Design().FileName = UntitledName;
+  Design().Viewer = false;
+  desk_.Window.ShowCaption();
+  Design().ClearSaw();
+  desk_.Panels.ShowUnits();
+  FillAll();
+  desk_.Panels.ShowPanel(Panel::Main);
+}
+
+void DocumentCommands::FillAll() {
+  desk_.Panels.ShowSawInfo();
+  desk_.Panels.FillBoxes();
+}
+
+void DocumentCommands::New() {
+  if (busy_ || !MayLeave(Changed)) return;
+  BeginBlank();
+  desk_.Panels.DrawSaw();
+  Design().KeepAsSaved();
+}
+
+void DocumentCommands::NewStepByStep() {
+  if (busy_ || !MayLeave(ChangedForSteps)) return;
+  BeginBlank();
+  Design().SawSaved = Design().Saw;  // what the questions make of it counts as a change
+  Recalculate();
+  const Program& process = desk_.Process;
+  const Questions questions{desk_.Dialogs, process.Out.Say, Design().Format(),
+                            [&process] { process.SaveSettings(); }};
+  if (!StepByStepInput(Design().Saw, questions)) Design().ResetUnits();
+  Design().Recalculate(process.Out.Say);
+  Design().ViewAll();
+  desk_.Panels.DrawSaw();
+  FillAll();
+  Design().SawEdit = Design().Saw;
+}
+
+// ---- open
+
+void DocumentCommands::Open() {
+  if (busy_ || !MayLeave(Changed)) return;
+  const std::optional<std::string> path = desk_.Files.AskOpen(
+      {.Filter = std::string(OpenFilter), .Folder = Design().SawDir(), .Name = Design().FileName});
+  if (!path) return;
+  if (*path == Design().SawDir() + Design().FileName && !MayOpenAgain()) return;
+  const std::size_t title = TitleStart(*path);
+  OpenFile(path->substr(title), path->substr(0, title), Refused::Removed);
+}
+
+void DocumentCommands::OpenRecent(std::size_t index) {
+  if (busy_ || index >= Design().Settings.Recent.size()) return;
+  const RecentFile file = Design().Settings.Recent[index];
+  const bool isOpen = file.Path() == Design().SawDir() + Design().FileName;
+  const bool changed = !SameSaw(Design().Saw, Design().SawSaved);
+  if (changed && !(isOpen ? MayOpenAgain() : MayLeave(Changed))) return;
+  if (!changed && isOpen) return;
+  OpenFile(file.File, file.DriveDir, Refused::Kept);
+}
+
+void DocumentCommands::OpenCommandFile() {
+  const std::string path = desk_.Process.TakeCommandFile();
+  if (!path.empty()) OpenNamedFile(FileNameOf(path), FolderOf(path));
+}
+
+void DocumentCommands::OpenNamedFile(const std::string& name, const std::string& folder) {
+  if (!busy_) OpenFile(name, folder, Refused::Removed);
+}
+
+void DocumentCommands::OpenFile(const std::string& name, const std::string& folder, Refused refused) {
+  Design().FileName = name;
+  Design().Settings.CurrentSawDir = AddBackslash(folder);
+  Design().Viewer = false;
+  desk_.Window.ShowCaption();
+  Work work(*this);
+  Design().ClearSaw();
+  FillAll();
+  work.ShowAnimation();
+  const bool opened = Design().ReadFile(desk_.Process.Out.Say);
+  if (opened) {
+    ShowOpened();
+    work.End();
+    desk_.Process.AddToRecent();
+    desk_.Window.ShowRecentFiles();
+  } else {
+    ShowRefused(refused);
+  }
+}
+
+void DocumentCommands::ShowOpened() {
+  desk_.Panels.ShowUnits();
+  desk_.Panels.DrawSaw();
+  desk_.Panels.ShowPanel(Panel::Main);
+  FillAll();
+}
+
+/// What is no band saw file leaves a blank, unnamed design.
+void DocumentCommands::ShowRefused(Refused refused) {
+  const std::string path = Design().SawDir() + Design().FileName;
+  if (refused == Refused::Removed && FileExists(FilePath(path))) desk_.Bin.Remove(path);
+  Design().FileName = UntitledName;
+  Design().KeepAsSaved();
+  desk_.Window.ShowCaption();
+  ShowOpened();
+}
+
+// ---- save
+
+/// Asks where to save. The name gets the ending that it lacks; if the file with it exists, the dialog has not
+/// warned of that one.
+bool DocumentCommands::TakeSaveName(bool warn) {
+  const std::optional<std::string> path = desk_.Files.AskSave({.Filter = std::string(SaveFilter),
+                                                               .Folder = Design().SawDir(),
+                                                               .Name = Design().FileName,
+                                                               .WarnBeforeReplacing = warn});
+  if (!path) return false;
+  const bool lacksExtension = !Contains(*path, Extension);
+  const std::string whole = lacksExtension ? *path + std::string(Extension) : *path;
+  if (warn && lacksExtension && FileExists(FilePath(whole)) && !MayReplace(whole)) return false;
+  const std::size_t title = TitleStart(whole);
+  Design().FileName = whole.substr(title);
+  Design().Settings.CurrentSawDir = whole.substr(0, title);
+  return true;
+}
+
+void DocumentCommands::Save() {
+  if (busy_) return;
+  const bool mayWrite = Design().FileName == UntitledName ? TakeSaveName(true)
+                                                          : MayReplace(Design().SawDir() + Design().FileName);
+  if (!mayWrite) return;
+  Design().Viewer = false;
+  Write("mnuItemSave");
+}
+
+void DocumentCommands::SaveAs() {
+  if (busy_ || !TakeSaveName(true)) return;
+  Design().Viewer = false;
+  if (!Write("mnuItemSaveAs")) return;
+  desk_.Process.AddToRecent();
+  desk_.Window.ShowRecentFiles();
+}
+
+bool DocumentCommands::SaveBeforeLeaving() {
+  if (!TakeSaveName(false)) return false;
+  Design().Viewer = true;  // and stays until a command writes the caption anew
+  if (!Write("SaveBeforeLeaving")) return false;
+  desk_.Process.AddToRecent();
+  desk_.Window.ShowRecentFiles();
+  return true;
+}
+
+bool DocumentCommands::Write(std::string_view procedure) {
+  desk_.Window.ShowCaption();
+  std::error_code failure;
+  {
+    Work work(*this);
+    work.ShowAnimation();
+    failure = SaveBandSaw(Design().Saw, FilePath(Design().SawDir() + Design().FileName));
+    if (!failure) Design().KeepAsSaved();
+  }
+  if (failure) TellFailure(failure, procedure);
+  return !failure;
+}
+
+void DocumentCommands::TellFailure(std::error_code failure, std::string_view procedure) const {
+  Ask({.Title = "Saving",
+       .Text = "Error Number: " + std::to_string(failure.value()) + '\n' + failure.message() +
+               "\nSub Program " + std::string(procedure)});
+}
+
+bool DocumentCommands::MayClose() {
+  if (busy_ || !MayLeave(ChangedAtClose)) return false;
+  desk_.Process.SaveSettings();
+  return true;
+}
+
+// ---- export
+
+/// The path of a file to export, with its ending; nullopt when the user thinks better of it.
+/// @param isWhole  whether a path needs no ending
+std::optional<std::string> DocumentCommands::AskExportPath(const FileQuestion& question,
+                                                           std::string_view extension,
+                                                           bool (*isWhole)(const std::string&)) const {
+  std::optional<std::string> path = desk_.Files.AskSave(question);
+  if (!path || isWhole(*path)) return path;
+  std::string whole = *path + std::string(extension);
+  if (FileExists(FilePath(whole)) && !MayReplace(whole)) return std::nullopt;
+  return whole;
+}
+
+void DocumentCommands::ExportDxf() {
+  if (busy_) return;
+  const std::optional<std::string> path = AskExportPath({.Filter = std::string(DxfFilter),
+                                                         .Folder = Design().SawDir(),
+                                                         .Name = UpToFirstPoint(Design().FileName) + ".dxf",
+                                                         .WarnBeforeReplacing = true},
+                                                        ".dxf", HoldsDxf);
+  if (!path) return;
+  {
+    const Work work(*this);
+    Design().Recalculate(desk_.Process.Out.Say);
+    WriteDxf(Design().Lines, FilePath(*path), Design().Settings.Calculation, desk_.Process.Out.Say,
+             [this] { desk_.Window.LetEventsRun(); });
+  }
+  desk_.Panels.DrawSaw();
+}
+
+void DocumentCommands::SaveText() {
+  if (busy_) return;
+  const std::optional<std::string> path = AskExportPath({.Filter = std::string(TextFilter),
+                                                         .Folder = Design().SawDir(),
+                                                         .Name = UpToFirstPoint(Design().FileName) + ".txt",
+                                                         .WarnBeforeReplacing = true},
+                                                        ".txt", HasExtension);
+  if (!path) return;
+  const SawInfo rows = BuildSawInfo(Design().Saw, Design().Format(), 0);
+  (void)SaveTextFile(rows, Design().FileName, FilePath(*path));  // says nothing of its own
+}
+
+// ---- direction of teeth
+
+void DocumentCommands::SetTeethDirection(std::int16_t direction) {
+  std::int16_t& inForce = Design().Settings.Calculation.TeethDirection;
+  const bool isRightToLeft = inForce == RightToLeft;
+  if (busy_ || isRightToLeft == (direction == RightToLeft)) return;
+  inForce = direction;
+  desk_.Window.ShowTeethDirection();
+  Recalculate();
+}
+
+void DocumentCommands::Recalculate() {
+  Design().Recalculate(desk_.Process.Out.Say);
+  desk_.Panels.DrawSaw();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "entry/DialogHost.h"
+#include "platform/FileDialogs.h"
+#include "platform/Trash.h"
+#include "shell/Program.h"
+#include "window/MainView.h"
+
+namespace tarnwick {
+
+/// What the document commands need of the main window beside its panels.
+class DocumentView {
+ public:
+  virtual ~DocumentView() = default;
+  virtual void ShowCaption() = 0;
+  virtual void ShowRecentFiles() = 0;
+  virtual void ShowTeethDirection() = 0;
+  virtual void ShowView() = 0;          // scale and bars
+  virtual void SetBusy(bool busy) = 0;  // hourglass; some commands cannot be picked
+  virtual void ShowAnimation() = 0;     // plays to its end, or until somebody wants to go on
+  virtual void HideAnimation() = 0;
+  virtual void LetEventsRun() = 0;  // a long piece of work keeps the window alive by it
+};
+
+/// New, Open, Save and their kin: what they ask, word for word, and what becomes of the open design.
+///
+/// While a command runs, everything that asks for another is ignored. A failure that has no words of its own
+/// is told by its number.
+class DocumentCommands {
+ public:
+  struct Desk {
+    Program& Process;
+    DialogHost& Dialogs;
+    FileDialogs& Files;
+    Trash& Bin;
+    MainView& Panels;
+    DocumentView& Window;
+  };
+  explicit DocumentCommands(const Desk& desk) : desk_(desk) {}
+
+  void New();
+  void NewStepByStep();
+  void Open();
+  void OpenRecent(std::size_t index);  // counted from 0
+  void Save();
+  void SaveAs();
+  void ExportDxf();
+  void SaveText();
+
+  /// The design of the command line; once.
+  void OpenCommandFile();
+
+  /// Opens a file without any question. One that is no band saw file is removed from its place.
+  void OpenNamedFile(const std::string& name, const std::string& folder);
+
+  /// Asks for a place and writes the design there, whatever name it has.
+  /// @return whether it was written
+  bool SaveBeforeLeaving();
+
+  /// The window wants to close. False: it stays.
+  [[nodiscard]] bool MayClose();
+
+  /// 1: from left to right, 2: the other way. The one in force does nothing.
+  void SetTeethDirection(std::int16_t direction);
+
+  [[nodiscard]] bool IsBusy() const { return busy_; }
+
+ private:
+  enum class Refused { Removed, Kept };
+  class Work;
+
+  [[nodiscard]] OpenDesign& Design() const { return desk_.Process.Design; }
+  Button Ask(const Box& box) const { return desk_.Process.Out.Say.Show(box); }
+  [[nodiscard]] bool MayLeave(std::string_view changed);
+  [[nodiscard]] bool MayOpenAgain();
+  void BeginBlank();
+  void FillAll();
+  void OpenFile(const std::string& name, const std::string& folder, Refused refused);
+  void ShowOpened();
+  void ShowRefused(Refused refused);
+  bool TakeSaveName(bool warn);
+  [[nodiscard]] bool MayReplace(const std::string& path) const;
+  [[nodiscard]] std::optional<std::string> AskExportPath(const FileQuestion& question,
+                                                         std::string_view extension,
+                                                         bool (*isWhole)(const std::string&)) const;
+  bool Write(std::string_view procedure);
+  void TellFailure(std::error_code failure, std::string_view procedure) const;
+  void Recalculate();
+
+  Desk desk_;
+  bool busy_ = false;
+};
+
+}  // namespace tarnwick

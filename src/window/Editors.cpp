@@ -1,0 +1,212 @@
+#include "window/Editors.h"
+
+#include "power/modPower.h"
+#include "shell/modString.h"
+#include "window/modBoxRules.h"
+#include "window/modSelect.h"
+
+namespace tarnwick {
+namespace {
+
+Box ChangedQuestion() {
+  return {.Title = "Changed",
+          .Text = "Bandsaw has been changed!\nDo you wish to keep the existing changes?\n",
+          .Offer = Buttons::YesNoCancel,
+          .Shown = Icon::Question,
+          .Default = Button::Cancel};
+}
+
+}  // namespace
+
+Questions Editors::Asking() const {
+  return {host_, program_.Out.Say, program_.Design.Format(), [this] { program_.SaveSettings(); }};
+}
+
+void Editors::Recalculate() {
+  program_.Design.Recalculate(program_.Out.Say);
+  view_.DrawSaw();
+}
+
+/// The state that the last editor accepted, with its units.
+void Editors::Restore() {
+  OpenDesign& design = program_.Design;
+  design.Saw = design.SawEdit;
+  design.ImpMetric = design.Saw.ImpMetric;
+  view_.ShowUnits();
+}
+
+// ---- leaving an editor by the menu
+
+/// False: the user wants to stay.
+bool Editors::KeepsOrRestores() {
+  OpenDesign& design = program_.Design;
+  if (SameSaw(design.Saw, design.SawEdit)) return true;
+  switch (program_.Out.Say.Show(ChangedQuestion())) {
+    case Button::Yes:
+      return true;
+    case Button::No:
+      Restore();
+      Recalculate();
+      view_.FillBoxes();
+      view_.ShowSawInfo();
+      return true;
+    case Button::Ok:
+    case Button::Cancel:
+      break;
+  }
+  return false;
+}
+
+void Editors::OpenMain() {
+  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::Main) return;
+  view_.ShowSawInfo();
+  Pause(program_.Out.Time);
+  view_.ShowPanel(Panel::Main);
+  program_.Design.SawEdit = program_.Design.Saw;
+}
+
+void Editors::OpenGeneral() {
+  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::General) return;
+  Pause(program_.Out.Time);
+  view_.ShowStatus("", "");
+  program_.Design.SawEdit = program_.Design.Saw;
+  view_.FillBoxes();
+  view_.ShowPanel(Panel::General);
+}
+
+void Editors::OpenToothShape() {
+  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::ToothShape) return;
+  OpenDesign& design = program_.Design;
+  design.SawEdit = design.Saw;
+  view_.ShowStatus("", "");
+  Pause(program_.Out.Time);
+  if (design.View.Scale() != 1) design.ViewOneToOne();
+  view_.DrawSaw();
+  view_.FillBoxes();
+  view_.ShowPanel(Panel::ToothShape);
+}
+
+// ---- OK and Cancel, in the order of each
+
+void Editors::PressGeneralOk() {
+  OpenDesign& design = program_.Design;
+  Pause(program_.Out.Time);
+  BandSaw::General& general = design.Saw.GeneralInfo;
+  general.SideClear =
+      CalcSideClear(general.PlateThick, general.Kerf, design.Settings.Calculation.DecimalPlaces);
+  design.SawEdit = design.Saw;
+  view_.ShowPanel(Panel::Main);
+  Recalculate();
+  view_.ShowSawInfo();
+}
+
+void Editors::PressGeneralCancel() {
+  Pause(program_.Out.Time);
+  Restore();
+  view_.ShowPanel(Panel::Main);
+  Recalculate();
+  view_.ShowSawInfo();
+}
+
+void Editors::PressToothOk() {
+  Pause(program_.Out.Time);
+  view_.ShowPanel(Panel::Main);
+  view_.ShowSawInfo();
+  program_.Design.SawEdit = program_.Design.Saw;
+  Recalculate();
+}
+
+void Editors::PressToothCancel() {
+  Pause(program_.Out.Time);
+  Restore();
+  program_.Design.Recalculate(program_.Out.Say);  // twice, as the last digit of a measure may take it
+  Recalculate();
+  view_.ShowSawInfo();
+  view_.ShowPanel(Panel::Main);
+}
+
+// ---- boxes
+
+/// After an accepted value: the calculation may have corrected its neighbours, so all boxes show the record
+/// anew.
+void Editors::TakeAccepted() {
+  Recalculate();
+  view_.FillBoxes();
+}
+
+void Editors::ClickBox(const PanelField& field) {
+  BandSaw& saw = program_.Design.Saw;
+  switch (field.Act) {
+    case BoxAct::Ask:
+      if (ToothBoxState(field, saw.ToothStyle, saw.SeatInfo.State != False) != BoxState::Clickable) return;
+      if (!Asking().Ask(field.Asked, saw)) return;
+      ApplyBoxRule(field.Asked, saw, program_.Design.Settings.Calculation.DecimalPlaces);
+      TakeAccepted();
+      break;
+    case BoxAct::AskSeat:
+      if (Asking().AskSeat(saw.SeatInfo.State)) TakeAccepted();
+      break;
+    case BoxAct::MustUse:
+      view_.ShowStatus(NumberedText(field.Text), "");
+      break;
+    case BoxAct::Type:
+    case BoxAct::Tick:
+    case BoxAct::ReadOnly:
+      break;
+  }
+}
+
+void Editors::TypeInto(const PanelField& field, std::string_view text) {
+  BandSaw& saw = program_.Design.Saw;
+  const DisplayFormat format = program_.Design.Format();
+  const std::string before = field.Shown(saw, format);
+  if (before == text) return;
+  field.Take(saw, text);
+  if (field.Shown(saw, format) != before) saw.ContainsInfo.General = True;
+}
+
+void Editors::TickBothEdges(bool ticked) {
+  BandSaw& saw = program_.Design.Saw;
+  if ((saw.BothEdges != False) == ticked) return;
+  saw.BothEdges = ticked ? True : False;
+  saw.ContainsInfo.General = True;
+  TakeAccepted();
+}
+
+// ---- quick click
+
+void Editors::PressRow(const InfoRow& row) {
+  BandSaw& saw = program_.Design.Saw;
+  const RowAct act = ActOfRow(row.Code, saw.ToothStyle);
+  bool accepted = false;
+  switch (act.Act) {
+    case BoxAct::Ask:
+      accepted = Asking().Ask(act.Asked, saw);
+      if (accepted) ApplyRowRule(act.Asked, saw, program_.Design.Settings.Calculation.DecimalPlaces);
+      break;
+    case BoxAct::AskSeat:
+      accepted = Asking().AskSeat(saw.SeatInfo.State);
+      break;
+    case BoxAct::MustUse:
+      view_.ShowStatus(NumberedText(act.MustUse), "");
+      break;
+    case BoxAct::Type:
+    case BoxAct::Tick:
+    case BoxAct::ReadOnly:
+      break;
+  }
+  if (!accepted) return;
+  Recalculate();
+  view_.ShowSawInfo();
+}
+
+// ---- units
+
+void Editors::SetUnits(std::int16_t impMetric) {
+  program_.Design.ImpMetric = impMetric;
+  program_.Design.Saw.ImpMetric = impMetric;
+  view_.ShowSawInfo();
+  view_.FillBoxes();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,918 @@
+#include "shell/frmCfg.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <cstdlib>
+#include <memory>
+
+#include "platform/CollectedMessages.h"
+#include "platform/qt/ColourSwatch.h"
+#include "platform/qt/QtColorDialog.h"
+#include "platform/qt/QtMessages.h"
+#include "qt/Controls.h"
+#include "support/RecordingHelpViewer.h"
+#include "support/ScriptedColorDialog.h"
+
+namespace tarnwick {
+namespace {
+
+using test::Named;
+
+enum Page { General, Colors, PrinterAndDxf, UserInformation };
+constexpr int Pages = 4;
+
+const QStringList NumberNames = {"txtDecimalPlaces", "txtDisplayPlaces", "txtDisplayScale"};
+const QStringList CustomerNames = {"txtName",       "txtAddress", "txtCity", "txtProvince", "txtCountry",
+                                   "txtPostalCode", "txtPhone",   "txtFax",  "txtEmail"};
+const QStringList SwatchNames = {"lblBackSample",   "lblSawSample",  "lblTextSample",
+                                 "lblCenterSample", "lblZoomSample", "lblDxfColor"};
+const QStringList ButtonNames = {"cmdOk", "cmdCancel", "cmdApply"};
+
+QStringList PageControls(int page) {
+  switch (page) {
+    case General:
+      return QStringList{"optImperial", "optMetric"} + NumberNames + QStringList{"chkQuickClick"};
+    case Colors:
+      return SwatchNames;
+    case PrinterAndDxf:
+      return {"hscPrintThick", "chkPrintPowerReq", "hscDxfMemory"};
+    default:
+      return CustomerNames;
+  }
+}
+
+constexpr Colour Orange = Rgb(255, 128, 0);
+
+}  // namespace
+
+class frmCfgTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup() { Close(); }
+
+  void hasItsFrames_data();
+  void hasItsFrames();
+  void showsTheSettingsInForce();
+  void opensWithoutAChange();
+
+  void enablesApplyByEachControl_data();
+  void enablesApplyByEachControl();
+  void takesTheUnits();
+  void takesThePowerRequirements();
+  void takesTheCustomerLines();
+  void turnsQuickClickOffAndOn();
+
+  void readsANumberWhenItsBoxIsLeft_data();
+  void readsANumberWhenItsBoxIsLeft();
+  void readsANumberOnItsWayElsewhere_data();
+  void readsANumberOnItsWayElsewhere();
+  void putsARefusedNumberBack();
+  void staysWhenANumberIsRefused_data();
+  void staysWhenANumberIsRefused();
+  void showsTheMessageAboveItself();
+  void saysNothingOnTheWayOut_data();
+  void saysNothingOnTheWayOut();
+  void keepsTheBoxWhenAnotherWindowIsInUse();
+
+  void setsTheLineThickness();
+  void setsTheDxfSize_data();
+  void setsTheDxfSize();
+  void keepsADxfSizeOfNoPosition();
+
+  void picksEachColour_data();
+  void picksEachColour();
+  void keepsAColourWhenCancelled();
+  void picksTheDxfColour_data();
+  void picksTheDxfColour();
+  void opensTheColourDialogAboveItself();
+
+  void appliesAndStays();
+  void acceptsByOk_data();
+  void acceptsByOk();
+  void appliesNothingByOkWithoutAChange();
+  void cancels_data();
+  void cancels();
+  void keepsWhatWasAppliedWhenCancelled();
+  void opensTheManual();
+
+  void namesEveryControl();
+  void tabsInReadingOrder_data();
+  void tabsInReadingOrder();
+  void hasAccessKeys();
+  void alignsItsBoxes();
+  void clipsNothing_data();
+  void clipsNothing();
+
+ private:
+  void Open() { Open(messages_); }
+  void Open(Messages& messages) { Open(messages, colours_); }
+  void Open(Messages& messages, ColorDialog& colours);
+  void Close();
+  void TurnTo(int page);
+  void TurnToPageOf(const QString& name);
+
+  template <class Control>
+  Control* Find(const QString& name) {
+    return Named<Control>(*window_, qPrintable(name));
+  }
+  QLineEdit* Box(const QString& name) { return Find<QLineEdit>(name); }
+  void Type(const QString& name, const QString& text);
+  void Press(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
+  void Tick(const char* box);
+  void Change(const QString& name);
+  bool ApplyEnabled() { return Find<QPushButton>("cmdApply")->isEnabled(); }
+  QString TextOf(const char* label) { return Find<QLabel>(label)->text(); }
+
+  Config inForce_;
+  int applied_ = 0;
+  CollectedMessages messages_;
+  test::ScriptedColorDialog colours_;
+  test::RecordingHelpViewer help_;
+  std::unique_ptr<OptionsDialog> dialog_;
+  std::unique_ptr<frmCfg> window_;
+};
+
+void frmCfgTest::init() {
+  inForce_ = {};
+  applied_ = 0;
+  messages_ = {};
+  colours_ = {};
+  help_ = {};
+}
+
+void frmCfgTest::Close() {
+  window_.reset();
+  dialog_.reset();
+}
+
+void frmCfgTest::Open(Messages& messages, ColorDialog& colours) {
+  Close();
+  dialog_ = std::make_unique<OptionsDialog>(
+      inForce_, [this] { ++applied_; }, messages);
+  window_ = std::make_unique<frmCfg>(*dialog_, colours, help_);
+  window_->show();
+  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+}
+
+void frmCfgTest::TurnTo(int page) {
+  auto* bar = Find<QTabWidget>("SSTab1")->tabBar();
+  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(page).center());
+  QCOMPARE(bar->currentIndex(), page);
+}
+
+void frmCfgTest::TurnToPageOf(const QString& name) {
+  for (int page = 0; page < Pages; ++page) {
+    if (PageControls(page).contains(name)) TurnTo(page);
+  }
+  QVERIFY(Find<QWidget>(name)->isVisible());
+}
+
+void frmCfgTest::Type(const QString& name, const QString& text) {
+  QLineEdit* box = Box(name);
+  QTest::mouseClick(box, Qt::LeftButton);
+  box->selectAll();
+  if (text.isEmpty())
+    QTest::keyClick(box, Qt::Key_Delete);
+  else
+    QTest::keyClicks(box, text);
+}
+
+void frmCfgTest::Tick(const char* box) {
+  const QPoint mark(8, Find<QCheckBox>(box)->height() / 2);
+  QTest::mouseClick(Find<QCheckBox>(box), Qt::LeftButton, {}, mark);
+}
+
+/// Changes what a control shows, as a user would.
+void frmCfgTest::Change(const QString& name) {
+  auto* control = Find<QWidget>(name);
+  if (auto* text = qobject_cast<QLineEdit*>(control)) {
+    QTest::mouseClick(text, Qt::LeftButton);
+    QTest::keyClicks(text, "7");
+  } else if (qobject_cast<QScrollBar*>(control)) {
+    control->setFocus();
+    QTest::keyClick(control, Qt::Key_Right);
+  } else if (qobject_cast<QCheckBox*>(control) || qobject_cast<QRadioButton*>(control)) {
+    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
+  } else {
+    QTest::mouseClick(control, Qt::LeftButton);
+  }
+}
+
+// ---- what it shows
+
+void frmCfgTest::hasItsFrames_data() {
+  QTest::addColumn<int>("page");
+  QTest::addColumn<QString>("caption");
+  const auto row = [](const char* name, int page, const char* caption) {
+    QTest::newRow(name) << page << caption;
+  };
+  row("fraUnits", General, "Units");
+  row("Frame1", General, "Accuracy:");
+  row("fraDecimal", General, "Decimal Places:");
+  row("fraScales", General, "Scaling Factors");
+  row("Frame2", General, "Bandsaw Information Window");
+  row("fracolors", Colors, "Colors");
+  row("fraLineThick", PrinterAndDxf, "Printer Line Thickness");
+  row("fraPrintPowerReq", PrinterAndDxf, "Power Requirements");
+  row("fraDxfMemory", PrinterAndDxf, "Dxf File Size");
+  row("fraCustomer", UserInformation, "User Information:");
+}
+
+void frmCfgTest::hasItsFrames() {
+  QFETCH(int, page);
+  Open();
+  TurnTo(page);
+  auto* frame = Find<QGroupBox>(QTest::currentDataTag());
+  QVERIFY(frame->isVisible());
+  QTEST(frame->title(), "caption");
+}
+
+void frmCfgTest::showsTheSettingsInForce() {
+  inForce_.MainImpMetric = 1;
+  inForce_.Calculation.DecimalPlaces = 6;
+  inForce_.Calculation.DisplayPlaces = 4;
+  inForce_.Calculation.DxfSaveColor = 2;
+  inForce_.Display.DisplayScale = 0.9;
+  inForce_.PrintPowerReq = true;
+  inForce_.PrintLineThick = 12;
+  inForce_.Customer.Email = "mill@tarnwick.example";
+  Open();
+  QCOMPARE(window_->windowTitle(), QString("Options"));
+  QVERIFY(Find<QRadioButton>("optMetric")->isChecked());
+  QVERIFY(!Find<QRadioButton>("optImperial")->isChecked());
+  QCOMPARE(Box("txtDecimalPlaces")->text(), QString("6"));
+  QCOMPARE(Box("txtDisplayPlaces")->text(), QString("4"));
+  QCOMPARE(Box("txtDisplayScale")->text(), QString("0.9"));
+  QVERIFY(!Find<QCheckBox>("chkQuickClick")->isChecked());
+  QVERIFY(Find<QCheckBox>("chkPrintPowerReq")->isChecked());
+  QCOMPARE(Find<QScrollBar>("hscPrintThick")->value(), 12);
+  QCOMPARE(TextOf("lblPrintThick"), QString("12"));
+  QCOMPARE(Box("txtEmail")->text(), QString("mill@tarnwick.example"));
+  QVERIFY(Find<ColourSwatch>("lblDxfColor")->Shown() == DxfPaletteColour(2));
+  QCOMPARE(Find<ColourSwatch>("lblDxfColor")->text(), QString("2"));
+  QStringList captions;
+  for (const QLabel* label : window_->findChildren<QLabel*>()) captions.append(label->text());
+  for (const char* text :
+       {"1 = thin, 20 = thick", "Use scroll bar to adjust line thickness.", "Small Files   (Faster)",
+        "Large Files    (Slower)", "Number of Decimal Places Used For Calculations:",
+        "Number of Decimal Places Used For Displaying Values:",
+        "Change to Alter Scaling Factor of Graphics to be Displayed", "Name:", "Address:", "City:",
+        "Prov/State:", "Country:", "Postal/Zip Code:", "Phone:", "Fax:", "E-mail:"}) {
+    QVERIFY2(captions.contains(text), text);
+  }
+  QCOMPARE(Find<QCheckBox>("chkPrintPowerReq")->text(), QString("Include Power Requirements on Printout"));
+}
+
+void frmCfgTest::opensWithoutAChange() {
+  Open();
+  QVERIFY(!ApplyEnabled());
+  QCOMPARE(Find<QPushButton>("cmdApply")->text(), QString("&Apply"));
+  QVERIFY(window_->isModal());
+  for (int page = 0; page < Pages; ++page) {
+    TurnTo(page);
+    QVERIFY(!ApplyEnabled());
+  }
+}
+
+// ---- changes
+
+void frmCfgTest::enablesApplyByEachControl_data() {
+  QTest::addColumn<int>("page");
+  for (int page = 0; page < Pages; ++page) {
+    for (const QString& name : PageControls(page)) {
+      if (name != "optImperial" && name != "lblDxfColor") QTest::newRow(qPrintable(name)) << page;
+    }
+  }
+}
+
+void frmCfgTest::enablesApplyByEachControl() {
+  QFETCH(int, page);
+  colours_.Answers = {Orange};
+  Open();
+  TurnTo(page);
+  Change(QTest::currentDataTag());
+  QVERIFY(ApplyEnabled());
+  QCOMPARE(applied_, 0);
+}
+
+void frmCfgTest::takesTheUnits() {
+  Open();
+  Change("optMetric");
+  QVERIFY(Find<QRadioButton>("optMetric")->isChecked());
+  QVERIFY(!Find<QRadioButton>("optImperial")->isChecked());
+  Press("cmdApply");
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{1});
+  Change("optImperial");
+  Press("cmdOk");
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{0});
+}
+
+void frmCfgTest::takesThePowerRequirements() {
+  Open();
+  TurnTo(PrinterAndDxf);
+  Tick("chkPrintPowerReq");
+  Press("cmdOk");
+  QVERIFY(inForce_.PrintPowerReq);
+}
+
+void frmCfgTest::takesTheCustomerLines() {
+  Open();
+  TurnTo(UserInformation);
+  for (const QString& name : CustomerNames) Type(name, "The " + name);
+  Press("cmdOk");
+  const CustomerLines& lines = inForce_.Customer;
+  const std::string held[] = {lines.Name,       lines.Address, lines.City, lines.Province, lines.Country,
+                              lines.PostalCode, lines.Phone,   lines.Fax,  lines.Email};
+  for (int i = 0; i < CustomerNames.size(); ++i) {
+    QCOMPARE(QString::fromStdString(held[i]), "The " + CustomerNames[i]);
+  }
+}
+
+void frmCfgTest::turnsQuickClickOffAndOn() {
+  Open();
+  auto* box = Find<QCheckBox>("chkQuickClick");
+  QCOMPARE(box->text(), QString("Turn Quick Click Display Off"));
+  QCOMPARE(box->toolTip(), QString("Check to turn off quick click display."));
+  Tick("chkQuickClick");
+  QVERIFY(box->isChecked());
+  Press("cmdApply");
+  QVERIFY(!inForce_.QuickClick);
+  QVERIFY(!box->isChecked());
+  QCOMPARE(box->text(), QString("Turn Quick Click Display On"));
+  QCOMPARE(box->toolTip(), QString("Check to turn on quick click display."));
+  Tick("chkQuickClick");
+  Press("cmdOk");
+  QVERIFY(inForce_.QuickClick);
+}
+
+// ---- numbers
+
+void frmCfgTest::readsANumberWhenItsBoxIsLeft_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<QString>("shown");
+  const auto row = [](const char* name, const char* typed, const char* shown) {
+    QTest::addRow("%s %s", name, typed) << name << typed << shown;
+  };
+  row("txtDecimalPlaces", "3", "4");
+  row("txtDecimalPlaces", "11", "10");
+  row("txtDecimalPlaces", "10", "10");
+  row("txtDecimalPlaces", "2*4", "8");
+  row("txtDisplayPlaces", "1", "2");
+  row("txtDisplayPlaces", "6", "5");
+  row("txtDisplayPlaces", "2", "2");
+  row("txtDisplayScale", "1.6", "1");
+  row("txtDisplayScale", "1.5", "1.5");
+  row("txtDisplayScale", "1/2", "0.5");
+  row("txtDisplayScale", "", "1");
+}
+
+void frmCfgTest::readsANumberWhenItsBoxIsLeft() {
+  QFETCH(QString, name);
+  QFETCH(QString, typed);
+  Open();
+  Type(name, typed);
+  QCOMPARE(Box(name)->text(), typed);
+  QVERIFY(ApplyEnabled());
+  QTest::keyClick(Box(name), Qt::Key_Tab);
+  QTEST(Box(name)->text(), "shown");
+  QVERIFY(ApplyEnabled());
+  QVERIFY(messages_.Shown.empty());
+}
+
+void frmCfgTest::readsANumberOnItsWayElsewhere_data() {
+  QTest::addColumn<int>("way");
+  QTest::newRow("back") << 0;
+  QTest::newRow("click on another box") << 1;
+  QTest::newRow("click on a check box") << 2;
+  QTest::newRow("another page") << 3;
+  QTest::newRow("Apply") << 4;
+  QTest::newRow("OK") << 5;
+  QTest::newRow("Enter") << 6;
+}
+
+void frmCfgTest::readsANumberOnItsWayElsewhere() {
+  QFETCH(int, way);
+  Open();
+  Type("txtDecimalPlaces", "3");
+  if (way == 0) QTest::keyClick(Box("txtDecimalPlaces"), Qt::Key_Backtab);
+  if (way == 1) QTest::mouseClick(Box("txtDisplayScale"), Qt::LeftButton);
+  if (way == 2) Tick("chkQuickClick");
+  if (way == 3) QTest::keyClick(window_->focusWidget(), Qt::Key_L, Qt::AltModifier);
+  if (way == 4) Press("cmdApply");
+  if (way == 5) Press("cmdOk");
+  if (way == 6) QTest::keyClick(Box("txtDecimalPlaces"), Qt::Key_Return);
+  QTRY_COMPARE(Box("txtDecimalPlaces")->text(), QString("4"));
+  QCOMPARE(applied_, way >= 4 ? 1 : 0);
+  QCOMPARE(window_->isVisible(), way < 5);
+}
+
+void frmCfgTest::putsARefusedNumberBack() {
+  for (const QString& name : NumberNames) {
+    init();
+    Open();
+    const QString before = Box(name)->text();
+    Type(name, "many");
+    QTest::keyClick(Box(name), Qt::Key_Tab);
+    QCOMPARE(Box(name)->text(), before);
+    QCOMPARE(messages_.Texts(), std::vector<std::string>{"Not a valid equation!"});
+    QVERIFY(!Box(name)->hasFocus());
+    Press("cmdOk");
+    QCOMPARE(messages_.Shown.size(), std::size_t{1});
+    QVERIFY(!window_->isVisible());
+  }
+}
+
+void frmCfgTest::staysWhenANumberIsRefused_data() {
+  QTest::addColumn<int>("way");
+  QTest::newRow("OK") << 0;
+  QTest::newRow("Apply") << 1;
+  QTest::newRow("Enter") << 2;
+  QTest::newRow("access key of OK") << 3;
+}
+
+void frmCfgTest::staysWhenANumberIsRefused() {
+  QFETCH(int, way);
+  Open();
+  Type("txtDisplayScale", "many");
+  if (way == 0) Press("cmdOk");
+  if (way == 1) Press("cmdApply");
+  if (way == 2) QTest::keyClick(Box("txtDisplayScale"), Qt::Key_Enter);
+  if (way == 3) QTest::keyClick(window_.get(), Qt::Key_O, Qt::AltModifier);
+  QTRY_COMPARE(messages_.Texts(), std::vector<std::string>{"Not a valid equation!"});
+  QTest::qWait(150);  // a button pressed by its access key takes a moment
+  QCOMPARE(messages_.Shown.size(), std::size_t{1});
+  QVERIFY(window_->isVisible());
+  QCOMPARE(Box("txtDisplayScale")->text(), QString("1"));
+  QCOMPARE(applied_, 0);
+}
+
+void frmCfgTest::showsTheMessageAboveItself() {
+  QtMessages messages;
+  Open(messages);
+  Type("txtDecimalPlaces", "many");
+  const QWidget* owner = nullptr;
+  QString text;
+  int boxes = 0;
+  QTimer watch;
+  connect(&watch, &QTimer::timeout, this, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    ++boxes;
+    owner = box->parentWidget();
+    text = box->text();
+    box->button(QMessageBox::Ok)->click();
+  });
+  watch.start(10);
+  // It waits for the end of the click, which counts.
+  auto* other = Find<QCheckBox>("chkQuickClick");
+  const QPoint mark(8, other->height() / 2);
+  QTest::mousePress(other, Qt::LeftButton, {}, mark);
+  QTest::qWait(60);
+  QCOMPARE(boxes, 0);
+  QTest::mouseRelease(other, Qt::LeftButton, {}, mark);
+  QTRY_COMPARE(boxes, 1);
+  QCOMPARE(owner, window_.get());
+  QCOMPARE(text, QString("Not a valid equation!"));
+  QCOMPARE(Box("txtDecimalPlaces")->text(), QString("5"));
+  QVERIFY(other->isChecked());
+  QVERIFY(!other->isDown());
+  QTest::qWait(60);
+  QCOMPARE(boxes, 1);
+}
+
+void frmCfgTest::saysNothingOnTheWayOut_data() {
+  QTest::addColumn<int>("way");
+  QTest::newRow("cmdCancel") << 0;
+  QTest::newRow("Escape") << 1;
+  QTest::newRow("the window's button") << 2;
+  QTest::newRow("access key") << 3;
+  QTest::newRow("cmdCancel by keys") << 4;
+}
+
+void frmCfgTest::saysNothingOnTheWayOut() {
+  QFETCH(int, way);
+  Open();
+  Type("txtDisplayScale", "many");
+  if (way == 0) Press("cmdCancel");
+  if (way == 1) QTest::keyClick(Box("txtDisplayScale"), Qt::Key_Escape);
+  if (way == 2) QVERIFY(window_->close());
+  if (way == 3) QTest::keyClick(window_.get(), Qt::Key_C, Qt::AltModifier);
+  if (way == 4) {
+    Find<QPushButton>("cmdCancel")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
+  }
+  QTRY_VERIFY(!window_->isVisible());
+  QTest::qWait(20);
+  QVERIFY(messages_.Shown.empty());
+  QVERIFY(!dialog_->IsOpen());
+  QCOMPARE(applied_, 0);
+}
+
+void frmCfgTest::keepsTheBoxWhenAnotherWindowIsInUse() {
+  Open();
+  Type("txtDecimalPlaces", "3");
+  QDialog other(window_.get());
+  other.show();
+  other.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&other));
+  QCOMPARE(Box("txtDecimalPlaces")->text(), QString("3"));
+}
+
+// ---- bars
+
+void frmCfgTest::setsTheLineThickness() {
+  Open();
+  TurnTo(PrinterAndDxf);
+  auto* bar = Find<QScrollBar>("hscPrintThick");
+  auto* sample = Find<QLabel>("lblLineThickness");
+  const QSize window = window_->size();
+  const int below = Find<QWidget>("fraPrintPowerReq")->y();
+  QCOMPARE(bar->minimum(), 1);
+  QCOMPARE(bar->maximum(), 20);
+  bar->setFocus();
+  for (int thickness = 1; thickness <= 20; ++thickness) {
+    QCOMPARE(bar->value(), thickness);
+    QCOMPARE(TextOf("lblPrintThick"), QString::number(thickness));
+    QTRY_COMPARE(sample->height(), thickness);
+    QVERIFY(sample->width() > 100);
+    QCOMPARE(Find<QWidget>("fraPrintPowerReq")->y(), below);
+    QTest::keyClick(bar, Qt::Key_Right);
+  }
+  QCOMPARE(window_->size(), window);
+  QTest::keyClick(bar, Qt::Key_Home);
+  QCOMPARE(TextOf("lblPrintThick"), QString("1"));
+  QTest::keyClick(bar, Qt::Key_End);
+  Press("cmdOk");
+  QCOMPARE(inForce_.PrintLineThick, std::int16_t{20});
+}
+
+void frmCfgTest::setsTheDxfSize_data() {
+  QTest::addColumn<int>("position");
+  QTest::addColumn<int>("memory");
+  QTest::addColumn<QString>("number");
+  QTest::newRow("1") << 1 << 8000 << "1000";
+  QTest::newRow("2") << 2 << 16000 << "2000";
+  QTest::newRow("3") << 3 << 32000 << "4000";
+  QTest::newRow("4") << 4 << 64000 << "8000";
+  QTest::newRow("5") << 5 << 128000 << "16000";
+  QTest::newRow("6") << 6 << 256000 << "32000";
+  QTest::newRow("7") << 7 << 512000 << "64000";
+}
+
+void frmCfgTest::setsTheDxfSize() {
+  QFETCH(int, position);
+  QFETCH(int, memory);
+  QFETCH(QString, number);
+  const QString text = "Number of lines, arcs and circles\n" + number;
+  inForce_.Calculation.MemorySize = memory;
+  Open();
+  auto* bar = Find<QScrollBar>("hscDxfMemory");
+  QCOMPARE(bar->minimum(), 1);
+  QCOMPARE(bar->maximum(), 7);
+  QCOMPARE(bar->value(), position);
+  QCOMPARE(TextOf("lblDxfNumber"), text);
+
+  inForce_.Calculation.MemorySize = position == 1 ? 512000 : 8000;
+  Open();
+  TurnTo(PrinterAndDxf);
+  bar = Find<QScrollBar>("hscDxfMemory");
+  bar->setFocus();
+  const Qt::Key key = bar->value() < position ? Qt::Key_Right : Qt::Key_Left;
+  for (int steps = std::abs(bar->value() - position); steps > 0; --steps) QTest::keyClick(bar, key);
+  QCOMPARE(TextOf("lblDxfNumber"), text);
+  Press("cmdOk");
+  QCOMPARE(inForce_.Calculation.MemorySize, memory);
+}
+
+void frmCfgTest::keepsADxfSizeOfNoPosition() {
+  inForce_.Calculation.MemorySize = 100000;
+  Open();
+  QVERIFY(!ApplyEnabled());
+  Change("optMetric");
+  Press("cmdOk");
+  QCOMPARE(inForce_.Calculation.MemorySize, 100000);
+}
+
+// ---- colours
+
+void frmCfgTest::picksEachColour_data() {
+  QTest::addColumn<QString>("sample");
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<int>("which");
+  const auto row = [](const char* caption, const char* sample, const char* text, int which) {
+    QTest::newRow(caption) << sample << text << which;
+  };
+  row("lblBackColor", "lblBackSample", "Background Color of View Windows:", 0);
+  row("lblSawColor", "lblSawSample", "Saw Outline Color in View Windows:", 1);
+  row("lblTextColor", "lblTextSample", "Text Color in View Windows:", 2);
+  row("lblCenterColor", "lblCenterSample", "Center Line Color in View Windows:", 3);
+  row("lblZoomColor", "lblZoomSample", "Right Mouse Button Zoom Window Color:", 4);
+}
+
+void frmCfgTest::picksEachColour() {
+  constexpr Colour DisplaySettings::*settings[] = {
+      &DisplaySettings::BackGroundColor, &DisplaySettings::SawLineColor, &DisplaySettings::TextColor,
+      &DisplaySettings::CenterLineColor, &DisplaySettings::ZoomWindowColor};
+  QFETCH(QString, sample);
+  QFETCH(int, which);
+  const Colour before = inForce_.Display.*settings[which];
+  const Colour first = Rgb(1, 2, 3), second = Rgb(4, 5, 6), third = Rgb(7, 8, 9);
+  colours_.Answers = {first, second, third};
+  Open();
+  TurnTo(Colors);
+  auto* caption = Find<QLabel>(QTest::currentDataTag());
+  auto* swatch = Find<ColourSwatch>(sample);
+  QTEST(caption->text(), "text");
+  QVERIFY(swatch->Shown() == before);
+  QTest::mouseClick(caption, Qt::LeftButton);
+  QVERIFY(swatch->Shown() == first);
+  QTest::mouseClick(swatch, Qt::LeftButton);
+  QVERIFY(swatch->Shown() == second);
+  QVERIFY(swatch->hasFocus());
+  QTest::keyClick(swatch, Qt::Key_Space);
+  QVERIFY(swatch->Shown() == third);
+  QVERIFY(colours_.OpenedOn == std::vector<Colour>({before, first, second}));
+  QVERIFY(inForce_.Display.*settings[which] == before);
+  Press("cmdOk");
+  QVERIFY(inForce_.Display.*settings[which] == third);
+}
+
+void frmCfgTest::keepsAColourWhenCancelled() {
+  Open();
+  TurnTo(Colors);
+  QTest::mouseClick(Find<ColourSwatch>("lblSawSample"), Qt::LeftButton);
+  QCOMPARE(colours_.OpenedOn.size(), std::size_t{1});
+  QVERIFY(Find<ColourSwatch>("lblSawSample")->Shown() == inForce_.Display.SawLineColor);
+  QVERIFY(!ApplyEnabled());
+}
+
+void frmCfgTest::picksTheDxfColour_data() {
+  QTest::addColumn<bool>("ok");
+  for (const char* name : {"lblDxfSaveColor", "lblDxfColor"}) {
+    QTest::addRow("%s", name) << true;
+    QTest::addRow("%s, cancelled", name) << false;
+  }
+}
+
+void frmCfgTest::picksTheDxfColour() {
+  QFETCH(bool, ok);
+  const QString name = QString(QTest::currentDataTag()).section(',', 0, 0);
+  Open();
+  TurnTo(Colors);
+  QCOMPARE(TextOf("lblDxfSaveColor"), QString("Color to save Dxf files with :"));
+  const QWidget* owner = nullptr;
+  QTimer::singleShot(0, this, [&] {
+    QWidget* window = QApplication::activeModalWidget();
+    if (!window || window->objectName() != "frmColor") return;
+    owner = window->parentWidget();
+    QTest::mouseClick(Named<QWidget>(*window, "lblColor(1)"), Qt::LeftButton);
+    QTest::mouseClick(Named<QPushButton>(*window, ok ? "cmdOk" : "cmdCancel"), Qt::LeftButton);
+  });
+  QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton);
+  QCOMPARE(owner, window_.get());
+  QVERIFY(colours_.OpenedOn.empty());
+  const int number = ok ? 1 : 5;
+  QCOMPARE(Find<ColourSwatch>("lblDxfColor")->text(), QString::number(number));
+  QVERIFY(Find<ColourSwatch>("lblDxfColor")->Shown() == DxfPaletteColour(number));
+  QCOMPARE(ApplyEnabled(), ok);
+  Press("cmdOk");
+  QCOMPARE(int(inForce_.Calculation.DxfSaveColor), number);
+}
+
+void frmCfgTest::opensTheColourDialogAboveItself() {
+  QtColorDialog colours;
+  Open(messages_, colours);
+  TurnTo(Colors);
+  const auto answer = [this](bool ok) {
+    QTimer::singleShot(0, this, [this, ok] {
+      auto* chooser = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+      if (!chooser) return;
+      QCOMPARE(chooser->parentWidget(), window_.get());
+      QCOMPARE(chooser->currentColor(), QColor(0, 255, 255));
+      chooser->setCurrentColor(QColor(255, 128, 0));
+      if (ok)
+        chooser->accept();
+      else
+        chooser->reject();
+    });
+    QTest::mouseClick(Find<ColourSwatch>("lblSawSample"), Qt::LeftButton);
+  };
+  answer(false);
+  QVERIFY(Find<ColourSwatch>("lblSawSample")->Shown() == Rgb(0, 255, 255));
+  QVERIFY(!ApplyEnabled());
+  answer(true);
+  QVERIFY(Find<ColourSwatch>("lblSawSample")->Shown() == Orange);
+  QVERIFY(ApplyEnabled());
+}
+
+// ---- Apply, OK, Cancel
+
+void frmCfgTest::appliesAndStays() {
+  Open();
+  Change("optMetric");
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{0});
+  Press("cmdApply");
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{1});
+  QCOMPARE(applied_, 1);
+  QVERIFY(!ApplyEnabled());
+  QVERIFY(window_->isVisible());
+  Change("optImperial");
+  QVERIFY(ApplyEnabled());
+  QTest::keyClick(window_.get(), Qt::Key_A, Qt::AltModifier);
+  QTRY_COMPARE(applied_, 2);
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{0});
+}
+
+void frmCfgTest::acceptsByOk_data() {
+  QTest::addColumn<int>("way");
+  QTest::newRow("cmdOk") << 0;
+  QTest::newRow("Enter") << 1;
+  QTest::newRow("Enter on the key pad") << 2;
+  QTest::newRow("access key") << 3;
+}
+
+void frmCfgTest::acceptsByOk() {
+  QFETCH(int, way);
+  Open();
+  Change("optMetric");
+  if (way == 0) Press("cmdOk");
+  if (way == 1) QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+  if (way == 2) QTest::keyClick(window_->focusWidget(), Qt::Key_Enter);
+  if (way == 3) QTest::keyClick(window_.get(), Qt::Key_O, Qt::AltModifier);
+  QTRY_VERIFY(!window_->isVisible());
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{1});
+  QCOMPARE(applied_, 1);
+}
+
+void frmCfgTest::appliesNothingByOkWithoutAChange() {
+  Open();
+  Press("cmdOk");
+  QVERIFY(!window_->isVisible());
+  QCOMPARE(applied_, 0);
+}
+
+void frmCfgTest::cancels_data() {
+  QTest::addColumn<int>("way");
+  QTest::newRow("cmdCancel") << 0;
+  QTest::newRow("Escape") << 1;
+  QTest::newRow("the window's button") << 2;
+}
+
+void frmCfgTest::cancels() {
+  QFETCH(int, way);
+  Open();
+  Change("optMetric");
+  if (way == 0) Press("cmdCancel");
+  if (way == 1) QTest::keyClick(window_->focusWidget(), Qt::Key_Escape);
+  if (way == 2) QVERIFY(window_->close());
+  QVERIFY(!window_->isVisible());
+  QVERIFY(!dialog_->IsOpen());
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{0});
+  QCOMPARE(applied_, 0);
+}
+
+void frmCfgTest::keepsWhatWasAppliedWhenCancelled() {
+  Open();
+  Change("optMetric");
+  Press("cmdApply");
+  Type("txtDecimalPlaces", "9");
+  Press("cmdCancel");
+  QCOMPARE(inForce_.MainImpMetric, std::int16_t{1});
+  QCOMPARE(inForce_.Calculation.DecimalPlaces, std::int16_t{5});
+  QCOMPARE(applied_, 1);
+}
+
+void frmCfgTest::opensTheManual() {
+  Open();
+  Type("txtDecimalPlaces", "9");
+  QTest::keyClick(window_->focusWidget(), Qt::Key_F1);
+  QCOMPARE(help_.Asked, std::vector<std::string>{"contents"});
+  QVERIFY(window_->isVisible());
+}
+
+// ---- order and looks
+
+void frmCfgTest::namesEveryControl() {
+  Open();
+  QCOMPARE(window_->objectName(), QString("frmCfg"));
+  QStringList controls = ButtonNames + QStringList{"SSTab1"};
+  for (int page = 0; page < Pages; ++page) controls += PageControls(page);
+  QCOMPARE(test::BadlySpoken(*window_, controls), QStringList());
+  QCOMPARE(Box("txtPostalCode")->accessibleName(), QString("Postal/Zip Code"));
+  QCOMPARE(Find<QCheckBox>("chkQuickClick")->accessibleName(), QString("Turn Quick Click Display Off"));
+  QCOMPARE(Find<ColourSwatch>("lblSawSample")->accessibleDescription(),
+           QString("Red 0, green 255, blue 255"));
+}
+
+void frmCfgTest::tabsInReadingOrder_data() {
+  QTest::addColumn<QStringList>("order");
+  QTest::newRow("General") << QStringList(
+      {"optImperial", "txtDecimalPlaces", "txtDisplayPlaces", "txtDisplayScale", "chkQuickClick"});
+  QTest::newRow("Colors") << SwatchNames;
+  QTest::newRow("Printer and Dxf") << PageControls(PrinterAndDxf);
+  QTest::newRow("User Information") << CustomerNames;
+}
+
+void frmCfgTest::tabsInReadingOrder() {
+  QFETCH(QStringList, order);
+  Open();
+  auto* tabs = Find<QTabWidget>("SSTab1");
+  QVERIFY(tabs->tabBar()->hasFocus());
+  Tick("chkQuickClick");  // Apply is reached once there is something to apply
+  tabs->tabBar()->setFocus();
+  while (tabs->tabText(tabs->currentIndex()).remove('&') != QTest::currentDataTag()) {
+    QTest::keyClick(tabs->tabBar(), Qt::Key_Right);
+  }
+  order.prepend("qt_tabwidget_tabbar");
+  order += ButtonNames;
+  QCOMPARE(test::TabOrder(*window_), order);
+}
+
+void frmCfgTest::hasAccessKeys() {
+  Open();
+  auto* tabs = Find<QTabWidget>("SSTab1");
+  QString keys = test::AccessKeys(*window_);
+  for (int page = 0; page < Pages; ++page) keys += tabs->tabText(page).section('&', 1).left(1).toUpper();
+  QCOMPARE(keys, QString("OCAGLPU"));
+  const QStringList titles = {"General", "Colors", "Printer and Dxf", "User Information"};
+  for (const int page : {3, 2, 1, 0}) {
+    QTest::keyClick(window_.get(), Qt::Key(keys[3 + page].unicode()), Qt::AltModifier);
+    QTRY_COMPARE(tabs->currentIndex(), page);
+    QCOMPARE(tabs->tabText(page).remove('&'), titles[page]);
+  }
+}
+
+void frmCfgTest::alignsItsBoxes() {
+  Open();
+  const auto place = [this](const QString& name) {
+    auto* control = Find<QWidget>(name);
+    return QRect(control->mapTo(window_.get(), QPoint()), control->size());
+  };
+  const auto inOneColumn = [&](int page, const QStringList& names) {
+    TurnTo(page);
+    for (const QString& name : names) {
+      QCOMPARE(place(name).left(), place(names.first()).left());
+      QCOMPARE(place(name).right(), place(names.first()).right());
+    }
+    for (qsizetype i = 1; i < names.size(); ++i)
+      QVERIFY(place(names[i]).top() > place(names[i - 1]).bottom());
+  };
+  inOneColumn(General, NumberNames);
+  inOneColumn(Colors, SwatchNames);
+  inOneColumn(UserInformation, CustomerNames);
+}
+
+void frmCfgTest::clipsNothing_data() {
+  QTest::addColumn<int>("points");
+  for (int points = 9; points <= 14; ++points) QTest::addRow("%d points", points) << points;
+}
+
+void frmCfgTest::clipsNothing() {
+  QFETCH(int, points);
+  const QFont before = QApplication::font();
+  QFont font = before;
+  font.setPointSize(points);
+  QApplication::setFont(font);
+  inForce_.Calculation.MemorySize = 512000;
+  inForce_.PrintLineThick = 20;
+  Open();
+  QVERIFY2(window_->width() <= 800 && window_->height() <= 600,
+           qPrintable(QString("%1 x %2").arg(window_->width()).arg(window_->height())));
+  for (int page = 0; page < Pages; ++page) {
+    TurnTo(page);
+    QStringList controls = ButtonNames;
+    for (auto* label : window_->findChildren<QLabel*>()) {
+      if (label->objectName().isEmpty()) label->setObjectName("caption " + label->text());
+      if (label->objectName() != "lblLineThickness") controls += label->objectName();  // has no text
+    }
+    for (const QString& name : PageControls(page)) {
+      if (!NumberNames.contains(name)) controls += name;  // wide enough for its figures alone
+    }
+    QCOMPARE(test::Clipped(*window_, controls).join(", "), QString());
+  }
+  for (const QString& name : NumberNames) {
+    const int figures = Box(name)->fontMetrics().horizontalAdvance("0.6667");
+    QVERIFY(Box(name)->contentsRect().width() > figures);
+  }
+  QApplication::setFont(before);
+}
+
+}  // namespace tarnwick
+
+QTEST_MAIN(tarnwick::frmCfgTest)
+#include "frmCfg_test.moc"
