@@ -8,11 +8,17 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "platform/qt/DocumentsFolder.h"
 #include "platform/qt/DrawingSurface.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtClock.h"
+#include "platform/qt/QtColorDialog.h"
+#include "platform/qt/QtDialogHost.h"
+#include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/QtMessages.h"
 #include "shell/CommandLine.h"
+#include "shell/Program.h"
+#include "store/modUserStore.h"
 #include "window/frmMain.h"
 
 namespace {
@@ -41,7 +47,13 @@ int RunMain(int argc, char** argv) {
   tarnwick::QtMessages messages;
   tarnwick::QtClock clock;
   const std::string design = tarnwick::CommandFile(argc - 1, argv + 1);
-  tarnwick::frmMain window({.CommandFile = design}, messages, clock);
+  tarnwick::QtColorDialog colors;
+  tarnwick::QtHelpViewer help;
+  const auto store = tarnwick::UserSettingsStore();
+  tarnwick::Program program({messages, clock, *store, colors, help});
+  program.Start(tarnwick::DocumentsFolder(), design);
+  tarnwick::QtDialogHost dialogs(help);
+  tarnwick::frmMain window(program, dialogs);
   const auto* surface = window.findChild<tarnwick::DrawingSurface*>("PicEditor");
   QObject::connect(surface, &tarnwick::DrawingSurface::Painted, &window, [&] {
     if (design.empty() || !window.windowTitle().startsWith("untitled")) std::_Exit(EXIT_SUCCESS);

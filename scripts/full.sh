@@ -10,6 +10,7 @@ run_full_stages() {
   run_stage "static checks" stage_static_checks
   run_stage "tests under sanitizers" stage_sanitizers
   run_stage "without Qt" stage_without_qt
+  run_stage "for Windows" stage_windows
   run_stage "fuzzing" stage_fuzzing
   run_stage "second computation" stage_second_computation
   run_stage "drawings in other readers" stage_drawings
@@ -49,6 +50,39 @@ stage_sanitizers() {
 # Core and command line tool, on a build that looks for no Qt.
 stage_without_qt() {
   build_preset no-gui --target tarnwick_core tarnwick-cli
+}
+
+# Core, command line tool and their tests made for Windows, the store of settings in the registry included, and run
+# here. The worked bands show that the last digit is the same.
+stage_windows() {
+  build_preset windows --target tarnwick-cli tarnwick_core_tests
+  local status=0 tool=build/windows/tarnwick-cli
+  run_windows_tests || status=$?
+  printf '#!/bin/sh\nexec wine "%s" "$@"\n' "$PWD/build/windows/src/tarnwick-cli.exe" >$tool
+  chmod +x $tool
+  under_wine env TARNWICK_CLI=$tool /usr/bin/python3 -B tests/worked_bands_test.py
+  count "$(wc -l <tests/data/bands.jsonl)" 0
+  return "$status"
+}
+
+# In one go: each start costs time. Shows the tests that fail, counts all of them.
+run_windows_tests() {
+  local log=build/windows-tests.log status=0 passed failed
+  under_wine wine build/windows/tests/tarnwick_core_tests.exe --gtest_brief=1 >"$log" 2>&1 || status=$?
+  passed=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) test.*/\1/p' "$log")
+  failed=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) test.*/\1/p' "$log")
+  [ "$status" -eq 0 ] || tr -d '\r' <"$log"
+  [ -n "$passed" ] || return 1 # it did not come to its end
+  count "$passed" "${failed:-0}"
+  return "$status"
+}
+
+# Runs a command that runs programs for Windows: on a Windows of its own in build/, with no screen, and without a
+# way to the user's folders.
+under_wine() {
+  mkdir -p build/wine-home
+  env -u DISPLAY -u WAYLAND_DISPLAY HOME="$PWD/build/wine-home" WINEPREFIX="$PWD/build/wine" WINEDEBUG=-all \
+    WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d" "$@"
 }
 
 # Fresh finds go to a folder of their own, so that every run starts from the seeds alone.
