@@ -57,23 +57,11 @@ stage_without_qt() {
 stage_windows() {
   build_preset windows --target tarnwick-cli tarnwick_core_tests
   local status=0 tool=build/windows/tarnwick-cli
-  run_windows_tests || status=$?
+  run_core_tests windows under_wine timeout 900 wine build/windows/tests/tarnwick_core_tests.exe || status=$?
   printf '#!/bin/sh\nexec wine "%s" "$@"\n' "$PWD/build/windows/src/tarnwick-cli.exe" >$tool
   chmod +x $tool
   under_wine env TARNWICK_CLI=$tool /usr/bin/python3 -B tests/worked_bands_test.py
   count "$(wc -l <tests/data/bands.jsonl)" 0
-  return "$status"
-}
-
-# In one go: each start costs time. Shows the tests that fail, counts all of them.
-run_windows_tests() {
-  local log=build/windows-tests.log status=0 passed failed
-  under_wine wine build/windows/tests/tarnwick_core_tests.exe --gtest_brief=1 >"$log" 2>&1 || status=$?
-  passed=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) test.*/\1/p' "$log")
-  failed=$(sed -n 's/^\[  FAILED  \] \([0-9]*\) test.*/\1/p' "$log")
-  [ "$status" -eq 0 ] || tr -d '\r' <"$log"
-  [ -n "$passed" ] || return 1 # it did not come to its end
-  count "$passed" "${failed:-0}"
   return "$status"
 }
 

@@ -3,7 +3,7 @@
 #
 #   run_stage NAME FUNCTION    runs the function with errexit in a subshell
 #   count PASSED FAILED        called inside of a stage that knows how many things it checked; others count as one
-#   close_stages               the table, the closing line of counts; fails when a stage did
+#   close_stages               the table with the seconds of each, the closing line of counts; fails when a stage did
 
 stage_table=()
 total_passed=0
@@ -14,7 +14,7 @@ trap 'rm -f "$count_file"' EXIT
 count() { printf '%s %s\n' "$1" "$2" >>"$count_file"; }
 
 run_stage() {
-  local name=$1 function=$2 status passed=0 failed=0 p f
+  local name=$1 function=$2 status passed=0 failed=0 p f began=$SECONDS
   printf '== %s\n' "$name"
   : >"$count_file"
   # Not inside a condition: the shell would ignore errexit in the function then.
@@ -39,7 +39,8 @@ run_stage() {
   total_failed=$((total_failed + failed))
   local verdict=ok
   [ "$failed" -eq 0 ] || verdict=FAILED
-  stage_table+=("$(printf '  %-28s %-7s %6d passed %4d failed' "$name" "$verdict" "$passed" "$failed")")
+  stage_table+=("$(printf '  %-28s %-7s %6d passed %4d failed %6d s' "$name" "$verdict" "$passed" "$failed" \
+    $((SECONDS - began)))")
 }
 
 close_stages() {
