@@ -1,7 +1,7 @@
 #include "store/modSave.h"
 
 #include "model/modDecim.h"
-#include "model/modMaker.h"
+#include "store/modFileNotes.h"
 #include "store/modFiles.h"
 #include "store/modImage.h"
 
@@ -19,15 +19,6 @@ constexpr std::int16_t SavedInThisFormat = 2;
 
 // The trailing blanks are meant.
 constexpr const char* NotABandSawFile = "Not a valid Band Saw File     ";
-constexpr const char* FileIsIncomplete = "File is incomplete. What could be read is shown.";
-
-std::string SavedInNewerVersion() {
-  return "File was saved in a newer version of this program!\n"
-         "Some information may not be available to the version\n"
-         "you are currently using!\n"
-         "Contact " +
-         std::string(MakersWebAddress) + " for an update.";
-}
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include "power/modPower.h"
 #include "shell/modString.h"
+#include "window/KeptChanges.h"
 #include "window/modBoxRules.h"
 #include "window/modSelect.h"
 
@@ -27,38 +28,14 @@ void Editors::Recalculate() {
   view_.DrawSaw();
 }
 
-/// The state that the last editor accepted, with its units.
-void Editors::Restore() {
-  OpenDesign& design = program_.Design;
-  design.Saw = design.SawEdit;
-  design.ImpMetric = design.Saw.ImpMetric;
-  view_.ShowUnits();
-}
+void Editors::Restore() { RestoreAccepted(program_.Design, view_); }
 
 // ---- leaving an editor by the menu
 
-/// False: the user wants to stay.
-bool Editors::KeepsOrRestores() {
-  OpenDesign& design = program_.Design;
-  if (SameSaw(design.Saw, design.SawEdit)) return true;
-  switch (program_.Out.Say.Show(ChangedQuestion())) {
-    case Button::Yes:
-      return true;
-    case Button::No:
-      Restore();
-      Recalculate();
-      view_.FillBoxes();
-      view_.ShowSawInfo();
-      return true;
-    case Button::Ok:
-    case Button::Cancel:
-      break;
-  }
-  return false;
-}
+bool Editors::MayLeave() { return KeepsOrRestores(program_, view_, ChangedQuestion()); }
 
 void Editors::OpenMain() {
-  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::Main) return;
+  if (!MayLeave() || view_.CurrentPanel() == Panel::Main) return;
   view_.ShowSawInfo();
   Pause(program_.Out.Time);
   view_.ShowPanel(Panel::Main);
@@ -66,7 +43,7 @@ void Editors::OpenMain() {
 }
 
 void Editors::OpenGeneral() {
-  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::General) return;
+  if (!MayLeave() || view_.CurrentPanel() == Panel::General) return;
   Pause(program_.Out.Time);
   view_.ShowStatus("", "");
   program_.Design.SawEdit = program_.Design.Saw;
@@ -75,7 +52,7 @@ void Editors::OpenGeneral() {
 }
 
 void Editors::OpenToothShape() {
-  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::ToothShape) return;
+  if (!MayLeave() || view_.CurrentPanel() == Panel::ToothShape) return;
   OpenDesign& design = program_.Design;
   design.SawEdit = design.Saw;
   view_.ShowStatus("", "");

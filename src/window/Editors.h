@@ -40,7 +40,7 @@ class Editors {
 
  private:
   [[nodiscard]] Questions Asking() const;
-  [[nodiscard]] bool KeepsOrRestores();
+  [[nodiscard]] bool MayLeave();
   void Restore();
   void Recalculate();
   void TakeAccepted();

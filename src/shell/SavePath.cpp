@@ -1,0 +1,25 @@
+#include "shell/SavePath.h"
+
+#include "store/modFiles.h"
+#include "store/modPath.h"
+
+namespace tarnwick {
+
+Box ReplaceQuestion(const std::string& path) {
+  return {.Title = "Save",
+          .Text = path + "\nThis file already exists.\nDo you want to replace it?",
+          .Offer = Buttons::YesNo,
+          .Shown = Icon::Warning,
+          .Default = Button::No};
+}
+
+std::optional<std::string> AskSavePath(FileDialogs& files, Messages& say, const FileQuestion& question,
+                                       std::string_view extension, bool (*isWhole)(const std::string&)) {
+  std::optional<std::string> path = files.AskSave(question);
+  if (!path || isWhole(*path)) return path;
+  std::string whole = *path + std::string(extension);
+  if (FileExists(FilePath(whole)) && say.Show(ReplaceQuestion(whole)) != Button::Yes) return std::nullopt;
+  return whole;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/FileDialogs.h"
+#include "platform/Messages.h"
+
+namespace tarnwick {
+
+/// Where to write a file: the path chosen, with its ending. The dialog has not warned of the name with an
+/// ending that was added, so an existing file of that name is asked about here.
+/// @param extension  with its point
+/// @param isWhole    whether a path needs no ending
+/// @return nullopt when the user thinks better of it
+[[nodiscard]] std::optional<std::string> AskSavePath(FileDialogs& files, Messages& say,
+                                                     const FileQuestion& question, std::string_view extension,
+                                                     bool (*isWhole)(const std::string&));
+
+/// "This file already exists."
+[[nodiscard]] Box ReplaceQuestion(const std::string& path);
+
+}  // namespace tarnwick

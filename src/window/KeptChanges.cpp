@@ -1,0 +1,31 @@
+#include "window/KeptChanges.h"
+
+namespace tarnwick {
+
+void RestoreAccepted(OpenDesign& design, MainView& view) {
+  design.Saw = design.SawEdit;
+  design.ImpMetric = design.Saw.ImpMetric;
+  view.ShowUnits();
+}
+
+bool KeepsOrRestores(Program& program, MainView& view, const Box& question) {
+  OpenDesign& design = program.Design;
+  if (SameSaw(design.Saw, design.SawEdit)) return true;
+  switch (program.Out.Say.Show(question)) {
+    case Button::Yes:
+      return true;
+    case Button::No:
+      RestoreAccepted(design, view);
+      design.Recalculate(program.Out.Say);
+      view.DrawSaw();
+      view.FillBoxes();
+      view.ShowSawInfo();
+      return true;
+    case Button::Ok:
+    case Button::Cancel:
+      break;
+  }
+  return false;
+}
+
+}  // namespace tarnwick
