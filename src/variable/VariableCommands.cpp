@@ -1,0 +1,166 @@
+#include "variable/VariableCommands.h"
+
+#include <utility>
+
+#include "variable/modVariable.h"
+
+namespace tarnwick {
+namespace {
+
+Box ChangedQuestion() {
+  return {.Title = "Changed",
+          .Text = "Bandsaw has been changed!\nDo you wish to keep the existing changes?\n",
+          .Offer = Buttons::YesNoCancel,
+          .Shown = Icon::Question,
+          .Default = Button::No};  // the other editors' question has Cancel: both are meant
+}
+
+std::string StyleRefusal(int toothStyle) {
+  switch (toothStyle) {
+    case NarrowStyle:
+      return "Variable pitch not available with the Narrow style tooth shape.";
+    case OShape:
+      return "Variable pitch not available with the O shape tooth shape.";
+    default:
+      return "Variable pitch not available with this tooth shape.";
+  }
+}
+
+}  // namespace
+
+VariableCommands::VariableCommands(Program& program, DialogHost& host, MainView& view)
+    : program_(program), host_(host), view_(view), editor_(program.Design, [this] { Recalculate(); }) {}
+
+Questions VariableCommands::Asking() const {
+  return {host_, program_.Out.Say, program_.Design.Format(), [this] { program_.SaveSettings(); }};
+}
+
+void VariableCommands::Recalculate() {
+  program_.Design.Recalculate(program_.Out.Say);
+  view_.DrawSaw();
+}
+
+/// The state that the last editor accepted, with its units.
+void VariableCommands::Restore() {
+  OpenDesign& design = program_.Design;
+  design.Saw = design.SawEdit;
+  design.ImpMetric = design.Saw.ImpMetric;
+  view_.ShowUnits();
+  Recalculate();
+}
+
+// ---- opening
+
+void VariableCommands::Tell(std::string text) { program_.Out.Say.Show({.Text = std::move(text)}); }
+
+/// False: the user wants to stay.
+bool VariableCommands::KeepsOrRestores() {
+  const OpenDesign& design = program_.Design;
+  if (SameSaw(design.Saw, design.SawEdit)) return true;
+  switch (program_.Out.Say.Show(ChangedQuestion())) {
+    case Button::Yes:
+      return true;
+    case Button::No:
+      Restore();
+      if (view_.CurrentPanel() == Panel::Variable) editor_.FillFromRecord();
+      view_.FillBoxes();
+      view_.ShowSawInfo();
+      return true;
+    case Button::Ok:
+    case Button::Cancel:
+      break;
+  }
+  return false;
+}
+
+bool VariableCommands::CanBeVariable() {
+  const BandSaw& saw = program_.Design.Saw;
+  switch (CanUseVariablePitch(saw.ToothStyle, saw.NumTeeth)) {
+    case VariablePitchAnswer::Allowed:
+      return true;
+    case VariablePitchAnswer::StyleNotAllowed:
+      Tell(StyleRefusal(saw.ToothStyle));
+      break;
+    case VariablePitchAnswer::TeethNotDivisible:
+      Tell("Number of teeth must be divisible by 3, 4, or 5.");  // 6 and 7 will do too: the words are its own
+      break;
+  }
+  return false;
+}
+
+void VariableCommands::OpenVariable() {
+  OpenDesign& design = program_.Design;
+  if (design.Saw.ContainsInfo.Teeth == False) {
+    program_.Out.Say.Show(
+        {.Title = "Variable Pitch", .Text = "Bandsaw must have teeth before adjusting pitch!"});
+    return;
+  }
+  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::Variable || !CanBeVariable()) return;
+  design.SawEdit = design.Saw;
+  editor_.FillFromRecord();
+  view_.FillBoxes();
+  view_.ShowPanel(Panel::Variable);
+}
+
+// ---- leaving
+
+void VariableCommands::PressVariableOk() {
+  OpenDesign& design = program_.Design;
+  view_.ShowPanel(Panel::Main);
+  design.SawEdit = design.Saw;
+  view_.ShowSawInfo();
+  if (design.View.Scale() == 1) design.ViewAll();
+  view_.DrawSaw();
+}
+
+void VariableCommands::PressVariableCancel() {
+  view_.ShowPanel(Panel::Main);
+  Restore();
+  view_.ShowSawInfo();
+}
+
+// ---- the controls
+
+void VariableCommands::PressVariableReset() {
+  editor_.PressReset();
+  view_.FillBoxes();
+}
+
+void VariableCommands::ChooseEntry(int entry) {
+  editor_.ChooseEntry(entry);
+  view_.FillBoxes();
+}
+
+void VariableCommands::ClickPattern(int index) {
+  editor_.ClickPattern(index);
+  view_.FillBoxes();
+}
+
+void VariableCommands::TickVarDepth(bool ticked) {
+  editor_.TickVarDepth(ticked);
+  view_.FillBoxes();
+}
+
+void VariableCommands::ClickPitch(int k) {
+  editor_.ClickPitch(k, Asking());
+  view_.FillBoxes();
+}
+
+void VariableCommands::ClickDepth(int k) {
+  editor_.ClickDepth(k, Asking());
+  view_.FillBoxes();
+}
+
+// ---- emptied
+
+void VariableCommands::ResetVariable() {
+  editor_.ResetVariable();
+  view_.FillBoxes();
+}
+
+void VariableCommands::FollowCalculation() {
+  const std::int16_t style = program_.Design.Saw.ToothStyle;
+  if ((style == NarrowStyle || style == OShape) && editor_.IsFilled) ResetVariable();
+}
+
+}  // namespace tarnwick
