@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "support/Machines.h"
+
 namespace tarnwick {
 namespace {
 
@@ -11,13 +13,7 @@ constexpr int Places = 5;
 constexpr double Infinite = std::numeric_limits<double>::infinity();
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 
-BandSaw Machine(double wheelDia, double centers, double plate = 0) {
-  BandSaw saw;
-  saw.MachineInfo.WheelDia = wheelDia;
-  saw.MachineInfo.CenterToCenter = centers;
-  saw.GeneralInfo.PlateThick = plate;
-  return saw;
-}
+using test::Machine;
 
 // ---- clamps
 
