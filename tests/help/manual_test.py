@@ -24,7 +24,7 @@ TOPICS = {
     207: ["Gu1stRd", "GuF1stRd", "GuO1stRd"], 208: ["GuDRad2", "Gu2ndRd", "GuFRad2"], 209: ["Gu3rdRd"],
     210: ["GuBotAng"], 211: ["GuWidth", "GuFWidth", "GuOWidth"], 212: ["GuBkAngl"], 213: ["GuDepth"],
     214: ["GuBkRad"], 215: ["TipClear"], 216: ["Seat"], 217: ["SeatWide"], 218: ["SeatHigh"],
-    407: [], 409: ["CutDepth"], 410: [], 412: [],
+    400: [], 407: [], 409: ["CutDepth"], 410: [], 412: [], 420: [], 430: [],
     500: ["WheelDia"], 501: ["CenToCen"], 502: ["RimWidth"],
 }
 # Pages that go by a name: what the help menu opens, the measures without a topic, and the chapters.

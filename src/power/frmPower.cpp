@@ -1,0 +1,204 @@
+#include "power/frmPower.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "platform/qt/MeasureGrid.h"
+#include "platform/qt/QtText.h"
+#include "power/modFeedIndex.h"
+#include "shell/modString.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int Topic = 400;
+constexpr int ColumnGap = 32;
+constexpr int OkHint = 74, CancelHint = 75;  // numbered texts
+
+bool IsEnter(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
+frmPower::frmPower(PowerEditor& editor, HelpViewer& help, QWidget* parent)
+    : FormWindow("frmPower", tr("Power Requirements"), Topic, help, parent),
+      editor_(editor),
+      boxes_(PowerEditorBoxes(), {}, [this](PowerBox box) {
+        editor_.Click(box);
+        ShowState();
+      }) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(Margin);
+  column->addWidget(MakeFigures());
+  column->addWidget(MakeEstimates());
+  column->addStretch();
+  Arrange(column, MakeFoot());
+  ShowState();
+}
+
+// ---- making
+
+/// The cutting conditions and the saw at the left, what comes of them at the right.
+QGroupBox* frmPower::MakeFigures() {
+  using enum PowerBox;
+  auto* frame = new QGroupBox(tr("Power Requirements:"));
+  frame->setObjectName("fraPower");
+  auto* given = new MeasureGrid;
+  boxes_.AddTo(*given, {RPMs, MaxDepth, FeedRate, SpecificEnergy});
+  given->AddGap();
+  boxes_.AddTo(*given, {HPSawOD, ToothPitch, HPPlateThick, HPToothWidth, SideClearance, HPGulletArea});
+  auto* results = new MeasureGrid;
+  boxes_.AddTo(*results, {SawVelocity, Bite, HorsePower, MaxFeedRate});
+
+  auto* right = new QVBoxLayout;
+  right->setSpacing(Margin);
+  right->addLayout(results);
+  right->addWidget(MakeGulletCapacity());
+  right->addStretch();
+  auto* columns = new QHBoxLayout(frame);
+  columns->setSpacing(ColumnGap);
+  columns->addLayout(given, 1);
+  columns->addLayout(right, 1);
+  return frame;
+}
+
+QGroupBox* frmPower::MakeGulletCapacity() {
+  auto* frame = new QGroupBox(tr("Gullet Capacity:"));
+  frame->setObjectName("fraGulletCapacity");
+  cboFeedIndex_ = new QComboBox;
+  cboFeedIndex_->setObjectName("cboFeedIndex");
+  cboFeedIndex_->setAccessibleName(tr("Gullet feed index"));
+  for (const std::string& entry : FeedIndexEntries()) cboFeedIndex_->addItem(ToQt(entry));
+  connect(cboFeedIndex_, &QComboBox::activated, this, [this](int entry) {
+    editor_.SelectFeedIndex(static_cast<std::size_t>(entry));
+    ShowState();
+  });
+  auto* note = new QLabel(tr("Values based on the selected percent of the total gullet area."));
+  note->setObjectName("lblFeedIndex");
+  note->setTextFormat(Qt::PlainText);
+  note->setWordWrap(true);
+
+  auto* grid = new MeasureGrid;
+  boxes_.AddTo(*grid, {PowerBox::AreaBelowTip, PowerBox::Capacity});
+  auto* column = new QVBoxLayout(frame);
+  column->setSpacing(Gap);
+  column->addWidget(cboFeedIndex_);
+  column->addWidget(note);
+  column->addLayout(grid);
+  return frame;
+}
+
+QGroupBox* frmPower::MakeEstimates() {
+  auto* frame = new QGroupBox(tr("Estimated Feed Rates:"));
+  frame->setObjectName("fraEstimates");
+  cboPercent_ = new QComboBox;
+  cboPercent_->setObjectName("cboPercent");
+  cboPercent_->setAccessibleName(tr("Increase Feed Rate"));
+  for (const std::string& entry : PowerEditor::PercentEntries()) cboPercent_->addItem(ToQt(entry));
+  cboPercent_->setEditable(true);
+  cboPercent_->setInsertPolicy(QComboBox::NoInsert);
+  cboPercent_->setCompleter(nullptr);  // "1" is not to become "10 Percent"
+  cboPercent_->setCurrentIndex(-1);
+  cboPercent_->installEventFilter(this);
+  connect(cboPercent_, &QComboBox::editTextChanged, this,
+          [this](const QString& text) { editor_.TypePercent(text.toStdString()); });
+  auto* caption = new QLabel(tr("Increase Feed Rate "));
+  caption->setObjectName("lblPercent");
+  caption->setTextFormat(Qt::PlainText);
+  auto* cmdView = new QPushButton(tr("View Results"));
+  cmdView->setObjectName("cmdView");
+  cmdView->setAccessibleName(cmdView->text());
+  cmdView->setAutoDefault(true);
+  connect(cmdView, &QPushButton::clicked, this, [this] {
+    editor_.PressView();
+    ShowState();
+  });
+
+  estimates_ = new QHBoxLayout(frame);
+  estimates_->setSpacing(Gap);
+  estimates_->addWidget(caption);
+  estimates_->addWidget(cboPercent_);
+  estimates_->addWidget(cmdView);
+  estimates_->addStretch();
+  return frame;
+}
+
+void frmPower::AddPrint(std::function<void()> print) {
+  auto* cmdPrint = new QPushButton(tr("Print Results"));
+  cmdPrint->setObjectName("cmdPrint");
+  cmdPrint->setAccessibleName(cmdPrint->text());
+  connect(cmdPrint, &QPushButton::clicked, this, [this, print = std::move(print)] {
+    print();
+    ShowState();
+  });
+  auto* cmdView = findChild<QPushButton*>("cmdView");
+  estimates_->insertWidget(estimates_->indexOf(cmdView) + 1, cmdPrint);
+  setTabOrder(cmdView, cmdPrint);
+}
+
+QHBoxLayout* frmPower::MakeFoot() {
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(Gap);
+  foot->addStretch();
+  const auto add = [this, foot](const char* name, const QString& caption, const QString& spoken, int hint) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setAccessibleName(spoken);
+    button->setAccessibleDescription(ToQt(NumberedText(hint)));
+    button->setToolTip(ToQt(NumberedText(hint)));
+    foot->addWidget(button);
+    return button;
+  };
+  QPushButton* cmdOk = add("cmdOk", tr("&OK"), tr("OK"), OkHint);
+  cmdOk->setDefault(true);
+  connect(cmdOk, &QPushButton::clicked, this, [this] {
+    editor_.PressOk();
+    accept();
+  });
+  QPushButton* cmdCancel = add("cmdCancel", tr("&Cancel"), tr("Cancel"), CancelHint);
+  connect(cmdCancel, &QPushButton::clicked, this, &frmPower::reject);
+  return foot;
+}
+
+// ---- what is done to it
+
+void frmPower::reject() {
+  editor_.PressCancel();
+  FormWindow::reject();
+}
+
+/// Enter in the box for the percent ends the typing, not the window.
+bool frmPower::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == cboPercent_ && event->type() == QEvent::FocusOut) LeavePercent();
+  if (watched == cboPercent_ && IsEnter(*event)) {
+    LeavePercent();
+    return true;
+  }
+  return FormWindow::eventFilter(watched, event);
+}
+
+void frmPower::LeavePercent() {
+  editor_.LeavePercent();
+  ShowState();
+}
+
+void frmPower::ShowState() {
+  boxes_.ShowTexts([this](PowerBox box) -> const std::string& { return editor_.Text(box); });
+  const std::optional<std::size_t> entry = editor_.FeedIndexEntry();
+  cboFeedIndex_->setCurrentIndex(entry ? static_cast<int>(*entry) : -1);
+  const QString percent = ToQt(editor_.PercentText());
+  if (cboPercent_->currentText() != percent) cboPercent_->setEditText(percent);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/qt/FormWindow.h"
+#include "platform/qt/PowerBoxes.h"
+#include "power/PowerEditor.h"
+
+class QComboBox;
+class QGroupBox;
+class QHBoxLayout;
+
+namespace tarnwick {
+
+/// The window of a PowerEditor.
+class frmPower final : public FormWindow {
+ public:
+  /// @param editor  has its design; says once the window is closed whether it was accepted
+  frmPower(PowerEditor& editor, HelpViewer& help, QWidget* parent = nullptr);
+
+  /// Adds the button cmdPrint.
+  void AddPrint(std::function<void()> print);
+
+  void reject() override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QGroupBox* MakeFigures();
+  QGroupBox* MakeGulletCapacity();
+  QGroupBox* MakeEstimates();
+  QHBoxLayout* MakeFoot();
+
+  void LeavePercent();
+  void ShowState();
+
+  PowerEditor& editor_;
+  PowerBoxes boxes_;
+  QComboBox* cboFeedIndex_ = nullptr;
+  QComboBox* cboPercent_ = nullptr;
+  QHBoxLayout* estimates_ = nullptr;
+};
+
+}  // namespace tarnwick

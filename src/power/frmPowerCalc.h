@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "platform/qt/FormWindow.h"
+#include "platform/qt/PowerBoxes.h"
+#include "power/PowerCalculator.h"
+
+class QBoxLayout;
+class QComboBox;
+class QGroupBox;
+class QPushButton;
+
+namespace tarnwick {
+
+/// The window of a PowerCalculator.
+class frmPowerCalc final : public FormWindow {
+ public:
+  frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, QWidget* parent = nullptr);
+
+  /// Adds the button cmdPrint.
+  void AddPrint(std::function<void()> print);
+
+  void reject() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  static constexpr std::size_t Sides = 2;
+
+  PowerBoxes MakeBoxes(std::size_t side, const QString& spoken);
+  QGroupBox* MakeSide(std::size_t side, const QString& caption, const QString& clear);
+  QGroupBox* MakeFeedIndex();
+  QBoxLayout* MakeButtons();
+  QPushButton* MakeButton(const char* name, const QString& caption, std::function<void()> command);
+
+  void ShowState();
+
+  PowerCalculator& calculator_;
+  std::array<PowerBoxes, Sides> boxes_;
+  QComboBox* cboFeedIndex_ = nullptr;
+  QPushButton* cmdExit_ = nullptr;
+  QBoxLayout* buttons_ = nullptr;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,171 @@
+#include "power/frmPowerEst.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/QtText.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int Topic = 420;
+constexpr int LinesShown = 24;
+constexpr int LineAir = 2;     // above and below a text
+constexpr int ColumnGap = 24;  // between the labels and what stands beside them
+constexpr int LabelRole = Qt::UserRole, TextRole = Qt::UserRole + 1, HeadingRole = Qt::UserRole + 2;
+
+/// Draws a line with its label at the left and its text in a column of its own.
+class LinePainter final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// Both columns as wide as the lines need.
+  void Fit(const QListWidget& lines) {
+    const QFontMetrics plain = lines.fontMetrics(), bold(Bold(lines.font()));
+    label_ = text_ = heading_ = 0;
+    for (int i = 0; i < lines.count(); ++i) {
+      const QListWidgetItem* line = lines.item(i);
+      const QString label = line->data(LabelRole).toString();
+      if (line->data(HeadingRole).toBool()) {
+        heading_ = std::max(heading_, bold.horizontalAdvance(label));
+      } else {
+        label_ = std::max(label_, plain.horizontalAdvance(label));
+        text_ = std::max(text_, plain.horizontalAdvance(line->data(TextRole).toString()));
+      }
+    }
+  }
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+    const int margin = MarginOf(option);
+    return {std::max(heading_, label_ + ColumnGap + text_) + 2 * margin,
+            option.fontMetrics.height() + 2 * LineAir};
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem plain = option;
+    initStyleOption(&plain, index);
+    plain.text.clear();
+    const QWidget* widget = option.widget;
+    widget->style()->drawControl(QStyle::CE_ItemViewItem, &plain, painter, widget);
+
+    const bool isSelected = option.state & QStyle::State_Selected;
+    painter->save();
+    painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    const QRect room = option.rect.adjusted(MarginOf(option), 0, -MarginOf(option), 0);
+    if (index.data(HeadingRole).toBool()) painter->setFont(Bold(option.font));
+    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, index.data(LabelRole).toString());
+    painter->drawText(room.adjusted(label_ + ColumnGap, 0, 0, 0), Qt::AlignVCenter | Qt::TextSingleLine,
+                      index.data(TextRole).toString());
+    painter->restore();
+  }
+
+ private:
+  static QFont Bold(QFont font) {
+    font.setBold(true);
+    return font;
+  }
+  static int MarginOf(const QStyleOptionViewItem& option) { return option.fontMetrics.averageCharWidth(); }
+
+  int label_ = 0, text_ = 0, heading_ = 0;  // widths
+};
+
+/// As wide as its lines, and as high as a good part of them.
+class LineList final : public QListWidget {
+ public:
+  [[nodiscard]] QSize sizeHint() const override {
+    const int frame = 2 * frameWidth();
+    return {sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + frame,
+            std::min(LinesShown, std::max(count(), 1)) * sizeHintForRow(0) + frame};
+  }
+};
+
+/// A line for those who listen, to whom an asterisk says nothing.
+QString SpokenLine(const PowerLine& line) {
+  const QString spoken = (ToQt(line.Label) + ' ' + ToQt(line.Text)).simplified();
+  return line.Changed ? frmPowerEst::tr("%1, changed").arg(spoken) : spoken;
+}
+
+}  // namespace
+
+frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, QWidget* parent)
+    : FormWindow("frmPowerEst", tr("Power Estimates"), Topic, help, parent), estimates_(estimates) {
+  const auto caption = [](const char* name, std::string_view text) {
+    auto* label = new QLabel(ToQt(text));
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+  };
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(Margin, Margin, Margin, Margin);
+  column->setSpacing(Gap);
+  column->addWidget(caption("lblHeading", estimates_.Heading()));
+  column->addWidget(MakeLines(), 1);
+  column->addWidget(caption("lblNote", PowerEstimateList::Note()));
+  column->addLayout(MakeFoot());
+  DisplayPowerSets();
+  picPowerEst_->setFocus();
+}
+
+QListWidget* frmPowerEst::MakeLines() {
+  picPowerEst_ = new LineList;
+  picPowerEst_->setObjectName("picPowerEst");
+  picPowerEst_->setAccessibleName(tr("Power estimates"));
+  picPowerEst_->viewport()->setObjectName("picContain");
+  picPowerEst_->verticalScrollBar()->setObjectName("vscPowerInfo");
+  picPowerEst_->verticalScrollBar()->setAccessibleName(tr("Move the estimates"));
+  picPowerEst_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  picPowerEst_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  picPowerEst_->setItemDelegate(new LinePainter(picPowerEst_));
+  return picPowerEst_;
+}
+
+void frmPowerEst::DisplayPowerSets() {
+  picPowerEst_->clear();
+  for (const PowerLine& line : estimates_.Lines()) {
+    const QString label = ToQt(line.Label), text = ToQt(line.MarkedText());
+    auto* shown = new QListWidgetItem((label + text).trimmed(), picPowerEst_);
+    shown->setData(LabelRole, label);
+    shown->setData(TextRole, text);
+    shown->setData(HeadingRole, line.Is == PowerLine::Role::Heading);
+    shown->setData(Qt::AccessibleTextRole, SpokenLine(line));
+    if (line.Is == PowerLine::Role::Blank) shown->setFlags(Qt::NoItemFlags);  // the keys pass it over
+  }
+  static_cast<LinePainter*>(picPowerEst_->itemDelegate())->Fit(*picPowerEst_);
+}
+
+QHBoxLayout* frmPowerEst::MakeFoot() {
+  cmdOk_ = new QPushButton(tr("&OK"));
+  cmdOk_->setObjectName("cmdOk");
+  cmdOk_->setAccessibleName(tr("OK"));
+  cmdOk_->setDefault(true);
+  connect(cmdOk_, &QPushButton::clicked, this, &frmPowerEst::accept);
+  foot_ = new QHBoxLayout;
+  foot_->setSpacing(Gap);
+  foot_->addStretch();
+  foot_->addWidget(cmdOk_);
+  return foot_;
+}
+
+void frmPowerEst::AddPrint(std::function<void()> print) {
+  auto* cmdPrint = new QPushButton(tr("&Print"));
+  cmdPrint->setObjectName("cmdPrint");
+  cmdPrint->setAccessibleName(tr("Print"));
+  connect(cmdPrint, &QPushButton::clicked, this, std::move(print));
+  foot_->insertWidget(foot_->indexOf(cmdOk_), cmdPrint);
+  setTabOrder(picPowerEst_, cmdPrint);
+}
+
+void frmPowerEst::done(int result) {
+  estimates_.PressOk();
+  FormWindow::done(result);
+}
+
+}  // namespace tarnwick
