@@ -14,7 +14,7 @@ struct CalculationSettings {
   std::int16_t DxfSaveColor = 5;     // 0 to 9: colour index of drawn entities in a DXF file
 };
 
-inline constexpr std::int16_t RightToLeft = 2;  // of TeethDirection
+inline constexpr std::int16_t LeftToRight = 1, RightToLeft = 2;  // of TeethDirection
 
 /// Inclusive limits of a setting.
 struct SettingRange {

@@ -6,6 +6,7 @@
 #include "dxf/modDXF.h"
 #include "entry/StepByStep.h"
 #include "print/modText.h"
+#include "shell/modFailure.h"
 #include "store/modFiles.h"
 #include "store/modPath.h"
 #include "store/modSave.h"
@@ -137,6 +138,20 @@ bool DocumentCommands::MayReplace(const std::string& path) const {
   return Ask(ReplaceQuestion(path)) == Button::Yes;
 }
 
+// ---- at the start, and all the time
+
+void DocumentCommands::Begin() {
+  if (!desk_.Process.Copies.Offer(Design(), desk_.Process.Out.Say)) return OpenCommandFile();
+  (void)desk_.Process.TakeCommandFile();  // it would push the recovered design aside
+  desk_.Window.ShowCaption();
+  ShowOpened();
+}
+
+/// A design that is half read is not what the user would want back.
+void DocumentCommands::NoteForRecovery() {
+  if (!busy_) desk_.Process.Copies.Note(Design());
+}
+
 // ---- new
 
 void DocumentCommands::BeginBlank() {
@@ -181,7 +196,7 @@ void DocumentCommands::NewStepByStep() {
 
 void DocumentCommands::Open() {
   if (busy_ || !MayLeave(Changed)) return;
-  const std::optional<std::string> path = desk_.Files.AskOpen(
+  const std::optional<std::string> path = desk_.Process.Out.Files.AskOpen(
       {.Filter = std::string(OpenFilter), .Folder = Design().SawDir(), .Name = Design().FileName});
   if (!path) return;
   if (*path == Design().SawDir() + Design().FileName && !MayOpenAgain()) return;
@@ -238,7 +253,7 @@ void DocumentCommands::ShowOpened() {
 /// What is no band saw file leaves a blank, unnamed design.
 void DocumentCommands::ShowRefused(Refused refused) {
   const std::string path = Design().SawDir() + Design().FileName;
-  if (refused == Refused::Removed && FileExists(FilePath(path))) desk_.Bin.Remove(path);
+  if (refused == Refused::Removed && FileExists(FilePath(path))) desk_.Process.Out.Bin.Remove(path);
   Design().FileName = UntitledName;
   Design().KeepAsSaved();
   desk_.Window.ShowCaption();
@@ -250,10 +265,10 @@ void DocumentCommands::ShowRefused(Refused refused) {
 /// Asks where to save. The name gets the ending that it lacks; if the file with it exists, the dialog has not
 /// warned of that one.
 bool DocumentCommands::TakeSaveName(bool warn) {
-  const std::optional<std::string> path = desk_.Files.AskSave({.Filter = std::string(SaveFilter),
-                                                               .Folder = Design().SawDir(),
-                                                               .Name = Design().FileName,
-                                                               .WarnBeforeReplacing = warn});
+  const std::optional<std::string> path = desk_.Process.Out.Files.AskSave({.Filter = std::string(SaveFilter),
+                                                                           .Folder = Design().SawDir(),
+                                                                           .Name = Design().FileName,
+                                                                           .WarnBeforeReplacing = warn});
   if (!path) return false;
   const bool lacksExtension = !Contains(*path, Extension);
   const std::string whole = lacksExtension ? *path + std::string(Extension) : *path;
@@ -299,19 +314,22 @@ bool DocumentCommands::Write(std::string_view procedure) {
     failure = SaveBandSaw(Design().Saw, FilePath(Design().SawDir() + Design().FileName));
     if (!failure) Design().KeepAsSaved();
   }
-  if (failure) TellFailure(failure, procedure);
+  if (failure) {
+    TellFailure(failure, procedure);
+  } else {
+    desk_.Process.Copies.Saved(Design());
+  }
   return !failure;
 }
 
 void DocumentCommands::TellFailure(std::error_code failure, std::string_view procedure) const {
-  Ask({.Title = "Saving",
-       .Text = "Error Number: " + std::to_string(failure.value()) + '\n' + failure.message() +
-               "\nSub Program " + std::string(procedure)});
+  Ask(FailureBox("Saving", failure, procedure));
 }
 
 bool DocumentCommands::MayClose() {
   if (busy_ || !MayLeave(ChangedAtClose)) return false;
   desk_.Process.SaveSettings();
+  desk_.Process.Copies.End();
   return true;
 }
 
@@ -322,7 +340,7 @@ bool DocumentCommands::MayClose() {
 std::optional<std::string> DocumentCommands::AskExportPath(const FileQuestion& question,
                                                            std::string_view extension,
                                                            bool (*isWhole)(const std::string&)) const {
-  std::optional<std::string> path = desk_.Files.AskSave(question);
+  std::optional<std::string> path = desk_.Process.Out.Files.AskSave(question);
   if (!path || isWhole(*path)) return path;
   std::string whole = *path + std::string(extension);
   if (FileExists(FilePath(whole)) && !MayReplace(whole)) return std::nullopt;

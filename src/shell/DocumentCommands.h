@@ -7,8 +7,6 @@
 #include <string_view>
 
 #include "entry/DialogHost.h"
-#include "platform/FileDialogs.h"
-#include "platform/Trash.h"
 #include "shell/Program.h"
 #include "window/MainView.h"
 
@@ -21,7 +19,6 @@ class DocumentView {
   virtual void ShowCaption() = 0;
   virtual void ShowRecentFiles() = 0;
   virtual void ShowTeethDirection() = 0;
-  virtual void ShowView() = 0;          // scale and bars
   virtual void SetBusy(bool busy) = 0;  // hourglass; some commands cannot be picked
   virtual void ShowAnimation() = 0;     // plays to its end, or until somebody wants to go on
   virtual void HideAnimation() = 0;
@@ -37,12 +34,18 @@ class DocumentCommands {
   struct Desk {
     Program& Process;
     DialogHost& Dialogs;
-    FileDialogs& Files;
-    Trash& Bin;
     MainView& Panels;
     DocumentView& Window;
   };
   explicit DocumentCommands(const Desk& desk) : desk_(desk) {}
+
+  /// The window is there: the design that a crash has left comes up, if the user wants it, else that of the
+  /// command line.
+  void Begin();
+
+  /// Keeps the copy that outlives a crash up to date. To be called every RecoveryInterval, also while a
+  /// dialog is open.
+  void NoteForRecovery();
 
   void New();
   void NewStepByStep();
@@ -52,9 +55,6 @@ class DocumentCommands {
   void SaveAs();
   void ExportDxf();
   void SaveText();
-
-  /// The design of the command line; once.
-  void OpenCommandFile();
 
   /// Opens a file without any question. One that is no band saw file is removed from its place.
   void OpenNamedFile(const std::string& name, const std::string& folder);
@@ -79,6 +79,7 @@ class DocumentCommands {
   Button Ask(const Box& box) const { return desk_.Process.Out.Say.Show(box); }
   [[nodiscard]] bool MayLeave(std::string_view changed);
   [[nodiscard]] bool MayOpenAgain();
+  void OpenCommandFile();
   void BeginBlank();
   void FillAll();
   void OpenFile(const std::string& name, const std::string& folder, Refused refused);

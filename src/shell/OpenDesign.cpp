@@ -42,19 +42,6 @@ bool OpenDesign::ReadFile(Messages& messages) {
   return true;
 }
 
-bool OpenDesign::OpenNamedFile(const std::string& name, const std::string& folder, Messages& messages) {
-  FileName = name;
-  Settings.CurrentSawDir = AddBackslash(folder);
-  if (ReadFile(messages)) return true;
-  FileName = UntitledName;
-  KeepAsSaved();
-  return false;
-}
-
-bool OpenDesign::OpenPath(const std::string& path, Messages& messages) {
-  return OpenNamedFile(FileNameOf(path), FolderOf(path), messages);
-}
-
 bool OpenDesign::ViewAll() { return View.ViewAll(ComputeExtents(Lines)); }
 
 bool OpenDesign::ViewOneToOne() { return View.ViewOneToOne(Lines.Entities.empty() ? nullptr : &Saw); }

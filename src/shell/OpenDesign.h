@@ -65,12 +65,6 @@ struct OpenDesign {
   /// @return false for a file that is refused; `Saw` is blank then
   bool ReadFile(Messages& messages);
 
-  /// The same for the design `name` in the folder `folder`. A refused file leaves a blank, unnamed design.
-  bool OpenNamedFile(const std::string& name, const std::string& folder, Messages& messages);
-
-  /// The same for a path. One that does not split into folder and name (a name without a dot) is refused.
-  bool OpenPath(const std::string& path, Messages& messages);
-
   // Commands of the view that look at the design. True: redraw.
   bool ViewAll();
   bool ViewOneToOne();

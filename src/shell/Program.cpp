@@ -14,13 +14,6 @@ void Program::Start(const std::string& documents, const std::string& commandFile
 
 std::string Program::TakeCommandFile() { return std::exchange(commandFile_, {}); }
 
-bool Program::OpenCommandFile() {
-  const std::string path = TakeCommandFile();
-  if (path.empty()) return false;
-  if (Design.OpenPath(path, Out.Say)) AddToRecent();
-  return true;
-}
-
 void Program::SaveSettings() const { SaveConfigOrTell(Design.Settings, Out.Store, Out.Say); }
 
 void Program::AddToRecent() {

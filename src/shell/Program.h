@@ -1,13 +1,17 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "platform/Clock.h"
 #include "platform/ColorDialog.h"
+#include "platform/FileDialogs.h"
 #include "platform/HelpViewer.h"
 #include "platform/Messages.h"
 #include "platform/SettingsStore.h"
+#include "platform/Trash.h"
 #include "shell/OpenDesign.h"
+#include "shell/Recovery.h"
 
 namespace tarnwick {
 
@@ -18,24 +22,25 @@ struct Surroundings {
   SettingsStore& Store;
   ColorDialog& Colors;
   HelpViewer& Help;
+  FileDialogs& Files;
+  Trash& Bin;
 };
 
 /// What the process holds from its start to its end.
 class Program {
  public:
-  explicit Program(const Surroundings& surroundings) : Out(surroundings) {}
+  /// @param stateFolder  of the user, for the copy that outlives a crash; empty: none is kept
+  explicit Program(const Surroundings& surroundings, const std::filesystem::path& stateFolder = {})
+      : Out(surroundings), Copies(stateFolder) {}
 
   Surroundings Out;
   OpenDesign Design;
+  Recovery Copies;
 
   /// The first steps of the program, ahead of its window.
   /// @param documents    the user's documents folder
   /// @param commandFile  design to open once the window is there; empty: none
   void Start(const std::string& documents, const std::string& commandFile);
-
-  /// Opens the design of the command line, the first time it is called.
-  /// @return whether there was one, whatever became of it
-  bool OpenCommandFile();
 
   /// The design of the command line, the first time it is called; empty: none.
   [[nodiscard]] std::string TakeCommandFile();

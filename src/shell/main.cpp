@@ -8,10 +8,13 @@
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtColorDialog.h"
 #include "platform/qt/QtDialogHost.h"
+#include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/QtMessages.h"
+#include "platform/qt/QtTrash.h"
 #include "shell/CommandLine.h"
 #include "shell/Program.h"
+#include "store/modUserFolders.h"
 #include "store/modUserStore.h"
 #include "window/frmMain.h"
 
@@ -25,9 +28,12 @@ int Run(int argc, char** argv) {
   tarnwick::QtClock clock;
   tarnwick::QtColorDialog colors;
   tarnwick::QtHelpViewer help;
+  tarnwick::QtFileDialogs files;
+  tarnwick::QtTrash trash;
   const std::unique_ptr<tarnwick::SettingsStore> store = tarnwick::UserSettingsStore();
 
-  tarnwick::Program program({messages, clock, *store, colors, help});
+  tarnwick::Program program({messages, clock, *store, colors, help, files, trash},
+                            tarnwick::UserStateFolder());
   program.Start(tarnwick::DocumentsFolder(), tarnwick::CommandFile(argc, argv));
   tarnwick::QtDialogHost dialogs(help);
   tarnwick::frmMain window(program, dialogs);

@@ -39,4 +39,12 @@ inline constexpr ToolCommand ToolCommands[] = {
     {ToolGroup::View, "tlbViewMinus", "mnuItemOut"},
 };
 
+/// The numbered text that is the hint of a menu item: that of its button; 0: none.
+[[nodiscard]] constexpr int HintOfItem(std::string_view item) {
+  for (const ToolCommand& row : ToolCommands) {
+    if (row.Item == item) return row.Hint;
+  }
+  return 0;
+}
+
 }  // namespace tarnwick

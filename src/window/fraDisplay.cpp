@@ -97,6 +97,8 @@ void fraDisplay::TakeSize() {
   design_.View.SetSurface(PicEditor_->SizeInInches());
 }
 
+QWidget& fraDisplay::Surface() const { return *PicEditor_; }
+
 void fraDisplay::ShowColours() {
   PicEditor_->SetRectangleColour(ToQt(design_.Settings.Display.ZoomWindowColor));
 }

@@ -23,6 +23,9 @@ class fraDisplay final : public QWidget {
   /// Brings the bars to what the view is now, and the drawing if it has changed.
   void ShowView(bool changed);
 
+  /// What is drawn on.
+  [[nodiscard]] QWidget& Surface() const;
+
   /// The colours of the settings, from the next drawing on.
   void ShowColours();
 

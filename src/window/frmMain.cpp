@@ -14,6 +14,7 @@
 #include <QWindow>
 #include <chrono>
 
+#include "shell/frmAnime.h"
 #include "shell/modString.h"
 #include "shell/modTimeDate.h"
 #include "shell/modWindowSize.h"
@@ -33,7 +34,11 @@ QSize ToQt(const WindowSize& size) { return {size.Width, size.Height}; }
 }  // namespace
 
 frmMain::frmMain(Program& program, DialogHost& dialogs)
-    : program_(program), design_(program.Design), editors_(program, dialogs, *this) {
+    : program_(program),
+      design_(program.Design),
+      editors_(program, dialogs, *this),
+      documents_({program, dialogs, *this, *this}),
+      commands_(program.Out.Say) {
   setObjectName("frmMain");
   MakeCentre();
   MakeMenu();
@@ -41,8 +46,10 @@ frmMain::frmMain(Program& program, DialogHost& dialogs)
   BindPanels();
   ShowColours();
   ShowCaption();
+  ShowTeethDirection();
   ShowUnits();
   fraMain_->ShowQuickClick(design_.Settings.QuickClick);
+  ShowRecentFiles();
   FillWorkArea();
   ShowView(design_.ViewOneToOne());
   ShowPanel(Panel::Main);
@@ -64,6 +71,7 @@ void frmMain::MakeCentre() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(0);
   display_ = new fraDisplay(design_, centre);
+  frmAnime_ = new frmAnime(display_->Surface(), program_.Out.Time);
   grid->addWidget(display_, 0, 0);
   grid->addWidget(MakePanels(), 0, 1);
   grid->addWidget(MakeHintStrip(), 1, 0, 1, 2);
@@ -108,8 +116,8 @@ QWidget* frmMain::MakeUnits() {
     row->addWidget(option);
   }
   row->addStretch();
-  connect(optImperial_, &QRadioButton::clicked, this, [this] { editors_.SetUnits(Imperial); });
-  connect(optMetric_, &QRadioButton::clicked, this, [this] { editors_.SetUnits(Metric); });
+  connect(optImperial_, &QRadioButton::clicked, this, [this] { TakeUnits(Imperial); });
+  connect(optMetric_, &QRadioButton::clicked, this, [this] { TakeUnits(Metric); });
   return units;
 }
 
@@ -167,14 +175,17 @@ void frmMain::MakeStatusBar() {
 }
 
 void frmMain::BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors::*cancel)()) {
-  connect(&panel, &FieldPanel::Pressed, this, [this](const PanelField& field) { editors_.ClickBox(field); });
+  connect(&panel, &FieldPanel::Pressed, this,
+          [this](const PanelField& field) { Run(field.Control, [&] { editors_.ClickBox(field); }); });
   connect(&panel, &FieldPanel::Typed, this, [this](const PanelField& field, const QString& text) {
     editors_.TypeInto(field, text.toStdString());
   });
   connect(&panel, &FieldPanel::TypingEnded, this, [this] { FillBoxes(); });  // "12x" saws are 12
-  connect(&panel, &FieldPanel::Ticked, this, [this](bool ticked) { editors_.TickBothEdges(ticked); });
-  connect(&panel, &FieldPanel::Accepted, this, [this, ok] { (editors_.*ok)(); });
-  connect(&panel, &FieldPanel::Cancelled, this, [this, cancel] { (editors_.*cancel)(); });
+  connect(&panel, &FieldPanel::Ticked, this,
+          [this](bool ticked) { Run("chkBothEdges", [&] { editors_.TickBothEdges(ticked); }); });
+  connect(&panel, &FieldPanel::Accepted, this, [this, ok] { Run("cmdOk", [&] { (editors_.*ok)(); }); });
+  connect(&panel, &FieldPanel::Cancelled, this,
+          [this, cancel] { Run("cmdCancel", [&] { (editors_.*cancel)(); }); });
   connect(&panel, &FieldPanel::Hovered, this, &frmMain::ShowHint);
   connect(&panel, &FieldPanel::ButtonHovered, this, [this](int text) { ShowStatus(NumberedText(text), ""); });
 }
@@ -184,9 +195,10 @@ void frmMain::BindPanels() {
   connect(display_, &fraDisplay::Painted, this, &frmMain::BeginSoon);
   connect(display_, &fraDisplay::Hovered, this, [this] { ShowStatus("", ""); });
   connect(fraMain_, &fraMain::RowPressed, this,
-          [this](const InfoRow& row) { editors_.PressRow(InfoRow(row)); });
+          [this](const InfoRow& row) { Run("picSawData", [&] { editors_.PressRow(InfoRow(row)); }); });
   connect(fraMain_, &fraMain::RowHovered, this, &frmMain::ShowHintOfRow);
-  connect(fraMain_, &fraMain::QuickClickAsked, this, &frmMain::TurnQuickClickOn);
+  connect(fraMain_, &fraMain::QuickClickAsked, this,
+          [this] { Run("cmdQuickClick", [this] { TurnQuickClickOn(); }); });
   BindEditor(*fraToothShape_, &Editors::PressToothOk, &Editors::PressToothCancel);
   BindEditor(*fraGeneral_, &Editors::PressGeneralOk, &Editors::PressGeneralCancel);
 }
@@ -235,7 +247,10 @@ void frmMain::BeginSoon() {
 
 void frmMain::BeginWork() {
   StayOnScreen();
-  if (program_.OpenCommandFile()) ShowAll();
+  Run("Form_Activate", [this] { documents_.Begin(); });
+  tmrRecovery_.setObjectName("tmrRecovery");
+  connect(&tmrRecovery_, &QTimer::timeout, this, [this] { documents_.NoteForRecovery(); });
+  tmrRecovery_.start(RecoveryInterval);
 }
 
 }  // namespace tarnwick

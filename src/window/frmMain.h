@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
 #include <QTimer>
 #include <functional>
 
+#include "shell/DocumentCommands.h"
+#include "shell/OneCommand.h"
 #include "shell/Program.h"
 #include "window/Editors.h"
 
@@ -23,11 +26,12 @@ class fraGeneral;
 class fraMain;
 class FieldPanel;
 class fraToothShape;
+class frmAnime;
 class ToolBar;
 
 /// The main window: the band, the panel of the design beside it, the commands, the lines that say what is
 /// what.
-class frmMain final : public QMainWindow, private MainView {
+class frmMain final : public QMainWindow, private MainView, private DocumentView {
  public:
   /// @param program  started; it outlives the window, as `dialogs` does
   frmMain(Program& program, DialogHost& dialogs);
@@ -51,15 +55,26 @@ class frmMain final : public QMainWindow, private MainView {
   void BindPanels();
   void BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors::*cancel)());
 
+  // One function for each menu, in the order of its items.
   void MakeMenu();
+  void MakeFileMenu();
   void MakeViewMenu();
   void MakeDesignMenu();
+  void MakeToolsMenu();
+  void MakeHelpMenu();
+  void MakeToolBar();
   QMenu* AddMenu(const char* name, const char* caption);
+  QMenu* AddSubmenu(QMenu* menu, const char* name, const char* caption);
+  void ShowHintsOf(QMenu* menu);
   QAction* AddItem(QMenu* menu, const char* name, const char* caption, const char* key,
                    std::function<void()> command);
+  QAction* AddSeparator(QMenu* menu, const char* name);
   /// An item of the View menu: what it does answers whether to redraw.
   void AddViewItem(QMenu* menu, const char* name, const char* caption, const char* key,
                    std::function<bool()> command);
+  void AddDirections(QMenu* view);
+  void AddRecentItem();
+  void Bind(QAction* item, std::function<void()> command);
 
   // ---- starting
   void FillWorkArea();
@@ -77,16 +92,30 @@ class frmMain final : public QMainWindow, private MainView {
   void DrawSaw() override;
   void ShowStatus(std::string_view status, std::string_view hint) override;
 
+  // ---- what the document commands ask of the window
+  void ShowCaption() override;
+  void ShowRecentFiles() override;
+  void ShowTeethDirection() override;
+  void SetBusy(bool busy) override;
+  void ShowAnimation() override;
+  void HideAnimation() override;
+  void LetEventsRun() override;
+
+  // ---- commands
+  /// Runs a command unless another one runs.
+  /// @param procedure  its name, for the message of a failure
+  void Run(std::string_view procedure, const std::function<void()>& command);
+  void End();
+
   // ---- showing
   void ShowOptions();
+  void TakeUnits(std::int16_t impMetric);
   void TurnQuickClickOn();
   void ApplySettings();
   void ShowColours();
   void ShowHint(const PanelField* field);
   void ShowHintOfRow(const InfoRow* row);
   [[nodiscard]] int HelpTopic() const;
-  void ShowAll();
-  void ShowCaption();
   void ShowView(bool changed);
   void ShowTimeDate();
   void Arrange();
@@ -94,10 +123,14 @@ class frmMain final : public QMainWindow, private MainView {
   Program& program_;
   OpenDesign& design_;  // the program's
   Editors editors_;
+  DocumentCommands documents_;
+  OneCommand commands_;
   bool begun_ = false;
-  int helpTopic_ = 0;  // of the box or row under the mouse, or that the keys have reached
+  bool toClose_ = false;  // once the command that runs is over
+  int helpTopic_ = 0;     // of the box or row under the mouse, or that the keys have reached
 
   fraDisplay* display_ = nullptr;
+  frmAnime* frmAnime_ = nullptr;
   QStackedWidget* panels_ = nullptr;
   QWidget* panelColumn_ = nullptr;
   fraMain* fraMain_ = nullptr;
@@ -106,6 +139,12 @@ class frmMain final : public QMainWindow, private MainView {
   QRadioButton* optImperial_ = nullptr;
   QRadioButton* optMetric_ = nullptr;
   ToolBar* toolBar_ = nullptr;
+  QMenu* mnuFile_ = nullptr;
+  QAction* belowRecentFiles_ = nullptr;
+  QList<QAction*> mnuRecentFiles_;  // by index: the separator, and an item for each file that was there
+  QAction* mnuItemLeftRight_ = nullptr;
+  QAction* mnuItemRightLeft_ = nullptr;
+  QWidget* focusBeforeBusy_ = nullptr;
   QWidget* hintStrip_ = nullptr;
   QGridLayout* hintRow_ = nullptr;
   QLabel* lblStatus_ = nullptr;
@@ -113,6 +152,7 @@ class frmMain final : public QMainWindow, private MainView {
   QLineEdit* txtScale_ = nullptr;
   QLineEdit* panTimeDate_ = nullptr;
   QTimer tmrClock_;
+  QTimer tmrRecovery_;
 };
 
 }  // namespace tarnwick

@@ -6,16 +6,39 @@
 #include <QMenuBar>
 #include <utility>
 
+#include "platform/qt/QtText.h"
 #include "platform/qt/ToolBar.h"
+#include "shell/frmAbout.h"
+#include "shell/frmSplash.h"
+#include "shell/modString.h"
+#include "shell/modToolCommands.h"
 #include "window/fraDisplay.h"
 #include "window/frmMain.h"
 
 namespace tarnwick {
 
+// ---- pieces of a menu
+
 QMenu* frmMain::AddMenu(const char* name, const char* caption) {
   QMenu* menu = menuBar()->addMenu(tr(caption));
   menu->setObjectName(name);
+  ShowHintsOf(menu);
   return menu;
+}
+
+QMenu* frmMain::AddSubmenu(QMenu* menu, const char* name, const char* caption) {
+  QMenu* submenu = menu->addMenu(tr(caption));
+  submenu->setObjectName(name);
+  ShowHintsOf(submenu);
+  return submenu;
+}
+
+/// An item has the hint of its button.
+void frmMain::ShowHintsOf(QMenu* menu) {
+  connect(menu, &QMenu::hovered, this, [this](const QAction* item) {
+    ShowStatus(NumberedText(HintOfItem(item->objectName().toStdString())), "");
+  });
+  connect(menu, &QMenu::aboutToHide, this, [this] { ShowStatus("", ""); });
 }
 
 QAction* frmMain::AddItem(QMenu* menu, const char* name, const char* caption, const char* key,
@@ -24,8 +47,19 @@ QAction* frmMain::AddItem(QMenu* menu, const char* name, const char* caption, co
   item->setObjectName(name);
   item->setShortcut(QKeySequence(key));
   item->setMenuRole(QAction::NoRole);
-  connect(item, &QAction::triggered, this, [command = std::move(command)] { command(); });
+  Bind(item, std::move(command));
   return item;
+}
+
+void frmMain::Bind(QAction* item, std::function<void()> command) {
+  connect(item, &QAction::triggered, this,
+          [this, item, command = std::move(command)] { Run(item->objectName().toStdString(), command); });
+}
+
+QAction* frmMain::AddSeparator(QMenu* menu, const char* name) {
+  QAction* separator = menu->addSeparator();
+  separator->setObjectName(name);
+  return separator;
 }
 
 void frmMain::AddViewItem(QMenu* menu, const char* name, const char* caption, const char* key,
@@ -33,20 +67,46 @@ void frmMain::AddViewItem(QMenu* menu, const char* name, const char* caption, co
   AddItem(menu, name, caption, key, [this, command = std::move(command)] { ShowView(command()); });
 }
 
+// ---- menus
+
 void frmMain::MakeMenu() {
-  QMenu* file = AddMenu("mnuFile", "&File");
-  AddItem(file, "mnuItemExit", "E&xit", "", [this] { close(); });
+  MakeFileMenu();
   MakeViewMenu();
   MakeDesignMenu();
-  QMenu* tools = AddMenu("mnuTools", "&Tools");
-  AddItem(tools, "mnuItemOptions", "&Options", "", [this] { ShowOptions(); });
+  MakeToolsMenu();
+  MakeHelpMenu();
+  MakeToolBar();
+}
 
-  toolBar_ = new ToolBar(*display_, this);
-  toolBar_->setObjectName("tlbMainWindow");
-  toolBar_->AddCommandsOf(*this);
-  addToolBar(toolBar_);
-  connect(toolBar_, &ToolBar::Pointed, this,
-          [this](const QString& hint) { ShowStatus(hint.toStdString(), ""); });
+void frmMain::MakeFileMenu() {
+  QMenu* file = mnuFile_ = AddMenu("mnuFile", "&File");
+  AddItem(file, "mnuItemNew", "&New", "", [this] { documents_.New(); });
+  AddItem(file, "mnuItemStepByStep", "Ne&w Step by Step", "", [this] { documents_.NewStepByStep(); });
+  AddItem(file, "mnuItemOpen", "&Open", "", [this] { documents_.Open(); });
+  AddItem(file, "mnuItemSave", "&Save", "", [this] { documents_.Save(); });
+  AddItem(file, "mnuItemSaveAs", "Save &As", "", [this] { documents_.SaveAs(); });
+  AddSeparator(file, "mnuItemFileSep4");
+  QMenu* exports = AddSubmenu(file, "mnuItemExport", "Export");
+  AddItem(exports, "mnuItemExportDxf", "Drawing to a Dxf File", "", [this] { documents_.ExportDxf(); });
+  AddItem(exports, "mnuItemSaveText", "Information to a Text File", "", [this] { documents_.SaveText(); });
+  AddSeparator(file, "mnuItemFileSep1");
+  AddSeparator(file, "mnuSepFile2")->setVisible(false);
+  mnuRecentFiles_ = {AddSeparator(file, "mnuRecentFiles(0)")};
+  belowRecentFiles_ = AddSeparator(file, "mnuItemFileSep3");
+  // Closing is no command among the others: it waits for the one that runs.
+  QAction* exit = file->addAction(tr("E&xit"), this, &QWidget::close);
+  exit->setObjectName("mnuItemExit");
+  exit->setMenuRole(QAction::NoRole);
+}
+
+void frmMain::AddRecentItem() {
+  const auto index = static_cast<std::size_t>(mnuRecentFiles_.size());
+  auto* item = new QAction(mnuFile_);
+  item->setObjectName(QString("mnuRecentFiles(%1)").arg(index));
+  item->setMenuRole(QAction::NoRole);
+  mnuFile_->insertAction(belowRecentFiles_, item);
+  Bind(item, [this, index] { documents_.OpenRecent(index - 1); });
+  mnuRecentFiles_.append(item);
 }
 
 void frmMain::MakeViewMenu() {
@@ -58,6 +118,22 @@ void frmMain::MakeViewMenu() {
   AddViewItem(view, "mnuItemLast", "Last View", "Ctrl+L", [&d] { return d.View.ShowLastView(); });
   AddViewItem(view, "mnuItemIn", "Zoom In", "Ctrl+I", [&d] { return d.View.ZoomIn(); });
   AddViewItem(view, "mnuItemOut", "Zoom Out", "Ctrl+O", [&d] { return d.View.ZoomOut(); });
+  AddSeparator(view, "mnuItemViewSep1");
+  AddDirections(view);
+}
+
+void frmMain::AddDirections(QMenu* view) {
+  QMenu* directions = AddSubmenu(view, "mnuItemTeethDirection", "Direction of Teeth");
+  const auto add = [&](const char* name, const char* caption, std::int16_t direction) {
+    QAction* item = AddItem(directions, name, caption, "",
+                            [this, direction] { documents_.SetTeethDirection(direction); });
+    item->setCheckable(true);
+    // A click turns the mark by itself, whatever comes of the command.
+    connect(item, &QAction::triggered, this, [this] { ShowTeethDirection(); });
+    return item;
+  };
+  mnuItemLeftRight_ = add("mnuItemLeftRight", "Left to Right", LeftToRight);
+  mnuItemRightLeft_ = add("mnuItemRightLeft", "Right to Left", RightToLeft);
 }
 
 void frmMain::MakeDesignMenu() {
@@ -65,6 +141,36 @@ void frmMain::MakeDesignMenu() {
   AddItem(design, "mnuItemMain", "Main Screen", "", [this] { editors_.OpenMain(); });
   AddItem(design, "mnuItemGeneral", "General Information", "", [this] { editors_.OpenGeneral(); });
   AddItem(design, "mnuItemToothShape", "Tooth Shape Editor", "", [this] { editors_.OpenToothShape(); });
+}
+
+void frmMain::MakeToolsMenu() {
+  QMenu* tools = AddMenu("mnuTools", "&Tools");
+  QAction* calculator = AddItem(tools, "mnuItemCalculator", "Calculator", "", [] {});  // never shown
+  calculator->setVisible(false);
+  calculator->setEnabled(false);
+  AddSeparator(tools, "mnuItemToolsSep1");
+  AddItem(tools, "mnuItemOptions", "&Options", "", [this] { ShowOptions(); });
+}
+
+void frmMain::MakeHelpMenu() {
+  HelpViewer& manual = program_.Out.Help;
+  QMenu* help = AddMenu("mnuHelp", "&Help");
+  AddItem(help, "mnuItemContents", "&Contents", "", [&manual] { manual.ShowContents(); });
+  AddItem(help, "mnuItemSearch", "&Search For Help On...", "", [&manual] { manual.ShowSearch(); });
+  AddItem(help, "mnuItemTech", "Obtain Technical Help...", "", [&manual] { manual.ShowSupport(); });
+  AddItem(help, "mnuItemSplash", "Splash", "", [this] { frmSplash(this).exec(); });
+  AddSeparator(help, "mnuSepHelp1");
+  AddItem(help, "mnuItemAbout", "&About", "", [this] { frmAbout(program_.Out.Help, this).exec(); });
+}
+
+// ---- tool bar
+
+void frmMain::MakeToolBar() {
+  toolBar_ = new ToolBar(*display_, this);
+  toolBar_->AddCommandsOf(*this);
+  addToolBar(toolBar_);
+  connect(toolBar_, &ToolBar::Pointed, this,
+          [this](const QString& hint) { ShowStatus(hint.toStdString(), ""); });
 }
 
 }  // namespace tarnwick

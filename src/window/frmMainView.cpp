@@ -1,6 +1,5 @@
 // What the main window shows, and when.
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -134,14 +133,13 @@ void frmMain::Arrange() {
   hintRow_->setColumnMinimumWidth(0, minimumWidth() / 2 + qRound(shares.Status));  // or a longer text's
 }
 
-// ---- ending
-
-void frmMain::closeEvent(QCloseEvent* event) {
-  program_.SaveSettings();
-  event->accept();
-}
-
 // ---- settings
+
+/// The buttons show the units in force, whether or not these could be changed.
+void frmMain::TakeUnits(std::int16_t impMetric) {
+  Run("optImperial", [&] { editors_.SetUnits(impMetric); });
+  ShowUnits();
+}
 
 void frmMain::ShowOptions() {
   OptionsDialog options(
@@ -177,21 +175,6 @@ void frmMain::ShowColours() {
 }
 
 // ---- showing
-
-/// Everything that hangs on the open design.
-void frmMain::ShowAll() {
-  ShowCaption();
-  ShowUnits();
-  ShowPanel(Panel::Main);
-  ShowSawInfo();
-  FillBoxes();
-  ShowView(true);
-}
-
-void frmMain::ShowCaption() {
-  // "[*]" is a mark of the toolkit's unless it stands twice.
-  setWindowTitle(ToQt(design_.Caption()).replace("[*]", "[*][*]"));
-}
 
 void frmMain::ShowView(bool changed) {
   display_->ShowView(changed);

@@ -81,7 +81,7 @@ class FirstWindow(Journey):
         self.close(screen, program)
         self.assertEqual(design.read_bytes(), before)
 
-    def test_says_what_it_does_not_open(self):
+    def test_puts_what_it_does_not_open_into_the_trash(self):
         letter = self.folder / "letter.bsw"
         letter.write_text("Dear filer,")
         screen = self.screen()
@@ -92,7 +92,9 @@ class FirstWindow(Journey):
         screen.mouse("windowactivate", "--sync", window)
         self.assertEqual(screen.settled().columns(SAW, SOFT), [])
         self.close(screen, program)
-        self.assertEqual(letter.read_text(), "Dear filer,")
+        self.assertFalse(letter.exists())
+        trash = self.folder / ".local" / "share" / "Trash" / "files"
+        self.assertEqual([path.read_text() for path in trash.iterdir()], ["Dear filer,"])
 
     def test_opens_the_design_without_a_window_manager(self):
         screen = self.screen(manager=False)

@@ -19,6 +19,12 @@ def until(condition, what):
     raise AssertionError(f"waited in vain: {what}")
 
 
+def as_ordinary_user(command):
+    """The command with the permissions of files in force: they mean nothing to root, unless it lays its powers down."""
+    powers = "-dac_override,-dac_read_search"
+    return ["setpriv", f"--bounding-set={powers}", f"--inh-caps={powers}", *command] if os.geteuid() == 0 else command
+
+
 class Picture:
     """The pixels of a screenshot."""
 
@@ -46,7 +52,8 @@ class Screen:
     def __init__(self, folder, width=1280, height=800, scale=1, manager=True):
         self.processes = []
         self.environment = {**os.environ, "XDG_RUNTIME_DIR": str(folder), "QT_SCALE_FACTOR": str(scale),
-                            "QT_QPA_PLATFORM": "xcb", "HOME": str(folder), "LC_ALL": "C.UTF-8"}
+                            "QT_QPA_PLATFORM": "xcb", "HOME": str(folder), "LC_ALL": "C.UTF-8",
+                            "XDG_STATE_HOME": f"{folder}/.local/state", "XDG_DATA_HOME": f"{folder}/.local/share"}
         try:
             self.environment["DISPLAY"] = self.start_display(f"{width * scale}x{height * scale}x24")
             if manager:
@@ -92,8 +99,18 @@ class Screen:
 
         return until(search, f"window {title!r}")[0].decode()
 
+    def active(self):
+        """The window that has the keys; nothing while there is none."""
+        return self.output("xdotool", "getactivewindow", check=False).decode().strip()
+
+    def title(self, window):
+        return self.output("xdotool", "getwindowname", window, check=False).decode().strip()
+
     def keys(self, *names):
         self.output("xdotool", "key", *names)
+
+    def type(self, text):
+        self.output("xdotool", "type", "--delay", "5", text)
 
     def mouse(self, *commands):
         self.output("xdotool", *map(str, commands))

@@ -19,6 +19,7 @@ class QtTrashTest : public QObject {
 
   void putsAFileIntoTheTrash();
   void keepsFilesOfOneNameApart();
+  void makesTheTrashOfANewUser();
   void deletesWhereThereIsNoTrash();
   void leavesAFileThatCannotBeRemoved();
   void leavesTheRestOfTheFolder();
@@ -62,6 +63,13 @@ void QtTrashTest::keepsFilesOfOneNameApart() {
   trash_.Remove(File("one.bsw", "second").toStdString());
   QVERIFY(!QFile::exists(work_->filePath("one.bsw")));
   QCOMPARE(InTrash().size(), 2);
+}
+
+void QtTrashTest::makesTheTrashOfANewUser() {
+  const QString folder = data_->filePath("share/of/his");
+  qputenv("XDG_DATA_HOME", QFile::encodeName(folder));
+  trash_.Remove(File("saw.bsw").toStdString());
+  QVERIFY(QFile::exists(folder + "/Trash/files/saw.bsw"));
 }
 
 void QtTrashTest::deletesWhereThereIsNoTrash() {

@@ -19,6 +19,7 @@
 #include "qt/Pixels.h"
 #include "store/modSave.h"
 #include "support/Designs.h"
+#include "support/OpenPath.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestProgram.h"
 
@@ -44,7 +45,7 @@ class frmMainTest : public QObject {
   void startsWithABlankDesign();
   void opensTheNamedDesignOnce();
   void opensItWithoutBeingActivated();
-  void showsTheMessageOfARefusedFile();
+  void putsARefusedFileIntoTheTrash();
   void keepsAMarkInAFileName();
   void fillsTheWorkArea();
   void cannotBeMadeSmallerThan800By600();
@@ -116,7 +117,7 @@ OpenDesign frmMainTest::Expected(const std::string& path) {
   CollectedMessages ignored;
   design.View.SetSurface(PicEditor_->SizeInInches());
   design.ViewOneToOne();
-  if (!path.empty()) design.OpenPath(path, ignored);
+  if (!path.empty()) test::OpenPath(design, path, ignored);
   return design;
 }
 
@@ -159,13 +160,14 @@ void frmMainTest::opensItWithoutBeingActivated() {
   QTRY_COMPARE(window_->windowTitle(), QString("head.bsw - Tarnwick"));
 }
 
-void frmMainTest::showsTheMessageOfARefusedFile() {
+void frmMainTest::putsARefusedFileIntoTheTrash() {
   const std::string path = folder_->File("list.bsw", "Shopping list").string();
   Open(path);
   QVERIFY((program_->Say.Texts() == std::vector<std::string>{"Not a valid Band Saw File     "}));
   QCOMPARE(window_->windowTitle(), QString("untitled.bsw - Tarnwick"));
   CompareView(Expected({}));
-  QVERIFY(std::filesystem::exists(path));
+  QCOMPARE(program_->Bin.Removed, std::vector<std::string>{path});
+  QVERIFY(program_->Process.Design.Settings.Recent.empty());
 }
 
 void frmMainTest::keepsAMarkInAFileName() {

@@ -8,7 +8,6 @@
 #include "store/modSave.h"
 #include "support/Designs.h"
 #include "support/ScriptedDialogHost.h"
-#include "support/ScriptedFileDialogs.h"
 #include "support/TestProgram.h"
 
 namespace tarnwick {
@@ -17,16 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 using test::PlainDesign;
 using Texts = std::vector<std::string>;
-
-/// Deletes for good, and remembers what.
-class RecordingTrash final : public Trash {
- public:
-  void Remove(const std::string& path) override {
-    Removed.push_back(path);
-    fs::remove(FilePath(path));
-  }
-  Texts Removed;
-};
 
 /// Writes down what the window is told to show, in order.
 class RecordingWindow final : public MainView, public DocumentView {
@@ -41,7 +30,6 @@ class RecordingWindow final : public MainView, public DocumentView {
   void ShowCaption() override { Note("caption"); }
   void ShowRecentFiles() override { Note("recent"); }
   void ShowTeethDirection() override { Note("direction"); }
-  void ShowView() override {}
   void SetBusy(bool busy) override { Note(busy ? "busy" : "not busy"); }
   void ShowAnimation() override {
     Note("animation");
@@ -86,10 +74,10 @@ class Document : public testing::Test {
 
   test::TestProgram program_;
   test::ScriptedDialogHost dialogs_;
-  test::ScriptedFileDialogs files_;
-  RecordingTrash trash_;
+  test::ScriptedFileDialogs& files_ = program_.Files;
+  test::RecordingTrash& trash_ = program_.Bin;
   RecordingWindow window_;
-  DocumentCommands commands_{{program_.Process, dialogs_, files_, trash_, window_, window_}};
+  DocumentCommands commands_{{program_.Process, dialogs_, window_, window_}};
 };
 
 // ---- new
@@ -236,11 +224,113 @@ TEST_F(Document, OpenOfAMissingFileLeavesABlankDesign) {
 
 TEST_F(Document, TheFileOfTheCommandLineIsOpenedOnce) {
   program_.Start(Stored("head.bsw"));
-  commands_.OpenCommandFile();
+  commands_.Begin();
   EXPECT_EQ(Design().FileName, "head.bsw");
   window_.Log.clear();
-  commands_.OpenCommandFile();
+  commands_.Begin();
   EXPECT_TRUE(window_.Log.empty());
+}
+
+TEST_F(Document, TheFileOfTheCommandLineIsRemovedWhenItIsNoBandSaw) {
+  program_.Start(program_.Documents.File("list.bsw", "Shopping list").string());
+  commands_.Begin();
+  EXPECT_EQ(trash_.Removed, Texts{Path("list.bsw")});
+  EXPECT_EQ(Design().Caption(), "untitled.bsw - Tarnwick");
+  EXPECT_TRUE(SameSaw(Design().Saw, Design().SawSaved));
+  EXPECT_TRUE(SameSaw(Design().Saw, Design().SawEdit));
+  EXPECT_TRUE(Design().Settings.Recent.empty());
+}
+
+TEST_F(Document, TheFileOfTheCommandLineStaysWhenItsNameHasNoDot) {
+  program_.Start(Stored("head"));
+  commands_.Begin();
+  EXPECT_TRUE(trash_.Removed.empty());
+  EXPECT_TRUE(fs::exists(Path("head")));
+  EXPECT_EQ(Design().FileName, "untitled.bsw");
+}
+
+// ---- after a crash
+
+/// Leaves what a program leaves that crashes with a changed design.
+void Crash(const test::TestProgram& program, double hook) {
+  OpenDesign design;
+  design.Saw = PlainDesign();
+  design.Saw.HookAngle = hook;
+  design.FileName = "lost.bsw";
+  design.Settings.CurrentSawDir = program.Documents.Path().string() + PathSeparator;
+  Recovery(program.State.Path()).Note(design);
+}
+
+bool HasCopy(const test::TestProgram& program) {
+  for (const auto& entry : fs::recursive_directory_iterator(program.State.Path())) {
+    if (entry.path().extension() == ".copy") return true;
+  }
+  return false;
+}
+
+TEST_F(Document, TheDesignOfACrashComesUpInPlaceOfThatOfTheCommandLine) {
+  Crash(program_, 25);
+  program_.Start(Stored("head.bsw"));
+  Answer({Button::Yes});
+  commands_.Begin();
+  EXPECT_EQ(LastBox().Title, "Recovery");
+  EXPECT_EQ(Design().Caption(), "lost.bsw - Tarnwick");
+  EXPECT_EQ(Design().Saw.HookAngle, 25);
+  EXPECT_EQ(window_.Log, (Texts{"caption", "units", "draw", "panel 1", "rows", "boxes"}));
+  commands_.Begin();
+  EXPECT_EQ(Design().Caption(), "lost.bsw - Tarnwick");
+}
+
+TEST_F(Document, TheDesignOfTheCommandLineComesUpWhenThatOfTheCrashIsDeclined) {
+  Crash(program_, 25);
+  program_.Start(Stored("head.bsw"));
+  Answer({Button::No});
+  commands_.Begin();
+  EXPECT_EQ(Design().Caption(), "head.bsw - Tarnwick");
+  EXPECT_TRUE(HasCopy(program_));  // until the next save
+  files_.Paths = {Path("head.bsw")};
+  commands_.SaveAs();
+  EXPECT_FALSE(HasCopy(program_));
+}
+
+TEST_F(Document, AChangeIsNotedAndForgottenWithTheSave) {
+  commands_.NoteForRecovery();
+  EXPECT_FALSE(HasCopy(program_));
+  Change();
+  commands_.NoteForRecovery();
+  EXPECT_TRUE(HasCopy(program_));
+  files_.Paths = {Path("no folder") + PathSeparator + "head.bsw"};
+  commands_.Save();
+  EXPECT_TRUE(HasCopy(program_));
+  files_.Paths = {Path("head.bsw")};
+  commands_.SaveAs();
+  EXPECT_FALSE(HasCopy(program_));
+}
+
+TEST_F(Document, AChangeThatTheUserGivesUpAtTheCloseIsForgotten) {
+  Change();
+  commands_.NoteForRecovery();
+  Answer({Button::Cancel});
+  EXPECT_FALSE(commands_.MayClose());
+  EXPECT_TRUE(HasCopy(program_));
+  Answer({Button::No});
+  EXPECT_TRUE(commands_.MayClose());
+  EXPECT_FALSE(HasCopy(program_));
+}
+
+TEST_F(Document, WhatIsHalfReadIsNotNoted) {
+  Change();
+  commands_.NoteForRecovery();
+  Stored("head.bsw");
+  Answer({Button::No});
+  Design().Settings.Recent = {{Folder(), "head.bsw"}};
+  window_.Meanwhile = [this] {
+    commands_.NoteForRecovery();
+    EXPECT_TRUE(HasCopy(program_));
+  };
+  commands_.OpenRecent(0);
+  commands_.NoteForRecovery();
+  EXPECT_FALSE(HasCopy(program_));
 }
 
 // ---- recent files

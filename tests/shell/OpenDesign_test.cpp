@@ -9,6 +9,7 @@
 #include "store/modSave.h"
 #include "support/CollectedMessages.h"
 #include "support/Designs.h"
+#include "support/OpenPath.h"
 #include "support/TemporaryFolder.h"
 
 namespace tarnwick {
@@ -25,8 +26,7 @@ class Open : public testing::Test {
   std::string Stored(const char* name, const BandSaw& saw) const {
     return folder_.File(name, BandSawText(saw)).string();
   }
-  /// A file of another kind, refused with a message.
-  std::string Foreign(const char* name) const { return folder_.File(name, "Shopping list").string(); }
+  bool OpenPath(const std::string& path) { return test::OpenPath(design_, path, say_); }
 
   TemporaryFolder folder_;
   CollectedMessages say_;
@@ -40,39 +40,32 @@ TEST_F(Open, StartsBlankAndUntitled) {
   EXPECT_EQ(design_.View.ScaleText(), "1.0");
 }
 
-TEST_F(Open, TakesNameFolderAndDesignFromAPath) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
-  EXPECT_EQ(design_.FileName, "head.bsw");
-  EXPECT_EQ(std::filesystem::path(design_.SawDir()) / "", folder_.Path() / "");
-  EXPECT_EQ(design_.Caption(), "head.bsw - Tarnwick");
-  EXPECT_TRUE(say_.Shown.empty());
-}
-
-TEST_F(Open, TakesANameInAnyScript) {
+TEST_F(Open, ReadsANameInAnyScript) {
   std::filesystem::create_directory(folder_ / "Säge 木");
   const std::filesystem::path path =
       folder_.File("Säge 木/Weiß.bsw", BandSawText(PlainDesign())).make_preferred();
-  ASSERT_TRUE(design_.OpenPath(PathText(path), say_));
-  EXPECT_EQ(design_.FileName, "Weiß.bsw");
+  ASSERT_TRUE(OpenPath(PathText(path)));
+  EXPECT_EQ(design_.Caption(), "Weiß.bsw - Tarnwick");
+  EXPECT_TRUE(say_.Shown.empty());
 }
 
 TEST_F(Open, CalculatesTheDesignAndItsDrawing) {
   BandSaw expected = PlainDesign();
   const EntityList drawing = CalculateSaw(expected, design_.Settings.Calculation, say_);
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
   EXPECT_TRUE(SameSaw(design_.Saw, expected));
   EXPECT_EQ(design_.Lines.Count(), drawing.Count());
   EXPECT_EQ(design_.Saw.Pitch, 2);
 }
 
 TEST_F(Open, CountsAsUnchangedWithAllThatTheCalculationCorrected) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
   EXPECT_TRUE(SameSaw(design_.Saw, design_.SawSaved));
   EXPECT_TRUE(SameSaw(design_.Saw, design_.SawEdit));
 }
 
 TEST_F(Open, ShowsTrueSizeAndLimitsZoomingByTheBand) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
   EXPECT_EQ(design_.View.ScaleText(), "1.0");
   const Extents extents = ComputeExtents(design_.Lines);
   EXPECT_DOUBLE_EQ(design_.View.FullScale(), 200 / (extents.MaxX - extents.MinX));
@@ -81,42 +74,24 @@ TEST_F(Open, ShowsTrueSizeAndLimitsZoomingByTheBand) {
 TEST_F(Open, TakesAnIncompleteFileWithAMessage) {
   const std::string text = BandSawText(PlainDesign());
   const std::string path = folder_.File("torn.bsw", text.substr(0, 1500)).string();
-  EXPECT_TRUE(design_.OpenPath(path, say_));
+  EXPECT_TRUE(OpenPath(path));
   EXPECT_EQ(design_.FileName, "torn.bsw");
   EXPECT_EQ(design_.Saw.NumTeeth, 120);
   EXPECT_EQ(say_.Texts(), std::vector<std::string>{"File is incomplete. What could be read is shown."});
 }
 
-TEST_F(Open, LeavesABlankDesignAfterARefusedFile) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
-  EXPECT_FALSE(design_.OpenPath(Foreign("list.bsw"), say_));
+TEST_F(Open, OnlyReadsARefusedFileAndBlanksTheDesign) {
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
+  const std::string path = folder_.File("list.bsw", "Shopping list").string();
+  EXPECT_FALSE(OpenPath(path));
   EXPECT_EQ(say_.Texts(), std::vector<std::string>{"Not a valid Band Saw File     "});
-  EXPECT_EQ(design_.Caption(), "untitled.bsw - Tarnwick");
+  EXPECT_EQ(test::BytesOf(path), "Shopping list");
   EXPECT_TRUE(SameSaw(design_.Saw, BandSaw{}));
-  EXPECT_TRUE(SameSaw(design_.SawSaved, BandSaw{}));
-  EXPECT_TRUE(SameSaw(design_.SawEdit, BandSaw{}));
   EXPECT_TRUE(design_.Lines.Entities.empty());
 }
 
-TEST_F(Open, OnlyReadsARefusedFile) {
-  const std::string path = Foreign("list.bsw");
-  EXPECT_FALSE(design_.OpenPath(path, say_));
-  EXPECT_EQ(test::BytesOf(path), "Shopping list");
-}
-
-TEST_F(Open, RefusesANameWithoutADot) {
-  EXPECT_FALSE(design_.OpenPath(Stored("head", PlainDesign()), say_));
-  EXPECT_EQ(design_.Caption(), "untitled.bsw - Tarnwick");
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "head"));
-}
-
-TEST_F(Open, AddsTheSeparatorThatAFolderLacks) {
-  Stored("head.bsw", PlainDesign());
-  EXPECT_TRUE(design_.OpenNamedFile("head.bsw", folder_.Path().string(), say_));
-}
-
 TEST_F(Open, ClearsTheDesignButNeitherItsNameNorTheView) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
   ASSERT_TRUE(design_.ViewAll());
   const double scale = design_.View.Scale();
   design_.ClearSaw();
@@ -127,7 +102,7 @@ TEST_F(Open, ClearsTheDesignButNeitherItsNameNorTheView) {
 }
 
 TEST_F(Open, ViewsTheWholeBandInTheMiddle) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
   ASSERT_TRUE(design_.ViewAll());
   const Extents extents = ComputeExtents(design_.Lines);
   const Spot middle = design_.View.CurrentMapping().ToSurface(extents.CenterX, extents.CenterY);
@@ -138,13 +113,13 @@ TEST_F(Open, ViewsTheWholeBandInTheMiddle) {
 TEST_F(Open, ShowsTheTeethOfAWideBandAtTrueSize) {
   BandSaw saw = PlainDesign();
   saw.Width = 12;
-  ASSERT_TRUE(design_.OpenPath(Stored("wide.bsw", saw), say_));
+  ASSERT_TRUE(OpenPath(Stored("wide.bsw", saw)));
   const Spot teeth = design_.View.CurrentMapping().ToSurface(0, 12 - 0.35);
   EXPECT_NEAR(teeth.Y, 3.5 * PixelsPerInch, 2);
 }
 
 TEST_F(Open, HasNoSegmentToShowOfABandOfEvenPitch) {
-  ASSERT_TRUE(design_.OpenPath(Stored("head.bsw", PlainDesign()), say_));
+  ASSERT_TRUE(OpenPath(Stored("head.bsw", PlainDesign())));
   EXPECT_FALSE(design_.ViewSegment());
 }
 

@@ -6,6 +6,7 @@
 
 #include "store/modSave.h"
 #include "support/Designs.h"
+#include "support/OpenPath.h"
 #include "support/TestProgram.h"
 
 namespace tarnwick {
@@ -56,48 +57,38 @@ TEST(ProgramStart, TakesTheDefaultsInPlaceOfAStoreThatCannotBeRead) {
   EXPECT_TRUE(program.Say.Shown.empty());
 }
 
-TEST(ProgramOpen, OpensTheDesignOfTheCommandLineOnce) {
+TEST(ProgramOpen, HandsOutTheDesignOfTheCommandLineOnce) {
   TestProgram program;
-  program.Start(Stored(program.Documents, "head.bsw", PlainDesign()));
-  EXPECT_EQ(program.Process.Design.FileName, "untitled.bsw");
-  EXPECT_TRUE(program.Process.OpenCommandFile());
-  EXPECT_EQ(program.Process.Design.FileName, "head.bsw");
-  program.Process.Design.FileName = "other.bsw";
-  EXPECT_FALSE(program.Process.OpenCommandFile());
-  EXPECT_EQ(program.Process.Design.FileName, "other.bsw");
+  program.Start("head.bsw");
+  EXPECT_EQ(program.Process.TakeCommandFile(), "head.bsw");
+  EXPECT_EQ(program.Process.TakeCommandFile(), "");
 }
 
 TEST(ProgramOpen, PutsTheDesignAtTheTopOfTheRecentFilesAndSavesThem) {
   TestProgram program;
+  program.Start();
   const std::string path = Stored(program.Documents, "head.bsw", PlainDesign());
-  program.Start(path);
-  program.Process.OpenCommandFile();
+  ASSERT_TRUE(test::OpenPath(program.Process.Design, path, program.Say));
+  program.Process.AddToRecent();
   ASSERT_EQ(program.Process.Design.Settings.Recent.size(), 1u);
   EXPECT_EQ(program.Process.Design.Settings.Recent[0].Path(), path);
   EXPECT_EQ(program.Store.Settings()["RecentNumFiles"], " 1");
   EXPECT_EQ(program.Store.Settings()["RecentFile1"], "head.bsw");
 }
 
-TEST(ProgramOpen, KeepsARefusedFileOutOfTheRecentFiles) {
-  TestProgram program;
-  program.Start(program.Documents.File("list.bsw", "Shopping list").string());
-  EXPECT_TRUE(program.Process.OpenCommandFile());
-  EXPECT_TRUE(program.Process.Design.Settings.Recent.empty());
-  EXPECT_EQ(program.Say.Shown.size(), 1u);
-}
-
 TEST(ProgramOpen, ShowsADesignInItsOwnUnitsAndANewOneInThoseOfTheSettings) {
   TestProgram program;
   BandSaw metric = PlainDesign();
   metric.ImpMetric = 1;
-  program.Start(Stored(program.Documents, "metric.bsw", metric));
-  EXPECT_EQ(program.Process.Design.ImpMetric, Imperial);
-  program.Process.OpenCommandFile();
-  EXPECT_EQ(program.Process.Design.ImpMetric, Metric);
-  EXPECT_TRUE(program.Process.Design.Format().IsMetric());
-  program.Process.Design.ClearSaw();
-  EXPECT_EQ(program.Process.Design.ImpMetric, Imperial);
-  EXPECT_EQ(program.Process.Design.Saw.ImpMetric, 0);
+  program.Start();
+  OpenDesign& design = program.Process.Design;
+  EXPECT_EQ(design.ImpMetric, Imperial);
+  ASSERT_TRUE(test::OpenPath(design, Stored(program.Documents, "metric.bsw", metric), program.Say));
+  EXPECT_EQ(design.ImpMetric, Metric);
+  EXPECT_TRUE(design.Format().IsMetric());
+  design.ClearSaw();
+  EXPECT_EQ(design.ImpMetric, Imperial);
+  EXPECT_EQ(design.Saw.ImpMetric, 0);
 }
 
 TEST(ProgramSettings, TellsWhenTheyCannotBeSavedAndGoesOn) {

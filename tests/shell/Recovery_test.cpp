@@ -10,6 +10,7 @@
 #include "store/modSave.h"
 #include "support/CollectedMessages.h"
 #include "support/Designs.h"
+#include "support/OpenPath.h"
 #include "support/TemporaryFolder.h"
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -62,7 +63,7 @@ class RecoveryOf : public testing::Test {
   OpenDesign Changed(const char* name = "head.bsw", double depth = 0.8) {
     OpenDesign design;
     const fs::path file = documents_.File(name, BandSawText(PlainDesign()));
-    EXPECT_TRUE(design.OpenPath(PathText(fs::path(file).make_preferred()), say_));
+    EXPECT_TRUE(test::OpenPath(design, PathText(fs::path(file).make_preferred()), say_));
     design.Saw.GulletInfo.Depth = depth;
     design.Recalculate(say_);
     EXPECT_FALSE(SameSaw(design.Saw, design.SawSaved));

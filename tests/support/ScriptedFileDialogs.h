@@ -1,9 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -11,7 +10,7 @@
 
 namespace tarnwick::test {
 
-/// Chooses the paths that lie ready, one a dialog; nullopt cancels. A dialog that nobody planned fails the
+/// Chooses the paths that lie ready, one a dialog; nullopt cancels. A dialog that nobody planned ends the
 /// test.
 class ScriptedFileDialogs final : public FileDialogs {
  public:
@@ -30,10 +29,7 @@ class ScriptedFileDialogs final : public FileDialogs {
   std::optional<std::string> Answer(const char* mode, const FileQuestion& question) {
     Modes.emplace_back(mode);
     Asked.push_back(question);
-    if (Paths.empty()) {
-      ADD_FAILURE() << "nobody planned this " << mode << " dialog";
-      return std::nullopt;
-    }
+    if (Paths.empty()) throw std::logic_error("nobody planned this " + Modes.back() + " dialog");
     const std::optional<std::string> path = Paths.front();
     Paths.pop_front();
     return path;

@@ -6,7 +6,9 @@
 #include "support/CollectedMessages.h"
 #include "support/MemoryStore.h"
 #include "support/RecordingHelpViewer.h"
+#include "support/RecordingTrash.h"
 #include "support/ScriptedColorDialog.h"
+#include "support/ScriptedFileDialogs.h"
 #include "support/StoppedClock.h"
 #include "support/TemporaryFolder.h"
 
@@ -19,9 +21,11 @@ struct TestProgram {
   MemoryStore Store;
   ScriptedColorDialog Colors;
   RecordingHelpViewer Help;
-  TemporaryFolder Documents;
+  ScriptedFileDialogs Files;
+  RecordingTrash Bin;
+  TemporaryFolder Documents, State;
 
-  Program Process{{Say, Time, Store, Colors, Help}};
+  Program Process{{Say, Time, Store, Colors, Help, Files, Bin}, State.Path()};
 
   void Start(const std::string& commandFile = {}) { Process.Start(Documents.Path().string(), commandFile); }
 };
