@@ -35,4 +35,9 @@ inline constexpr std::string_view FileTooLarge = "File is two large";
 bool WriteDxf(const EntityList& list, const std::filesystem::path& fileName,
               const CalculationSettings& settings, Messages& messages, const Yield& yield = {});
 
+inline constexpr std::string_view DxfExtension = ".dxf";
+
+/// Whether a path needs no ending: ".dxf" stands anywhere in it, in any case.
+[[nodiscard]] bool NamesDxf(const std::string& path);
+
 }  // namespace tarnwick
