@@ -8,13 +8,17 @@ import time
 PATIENCE = 30  # seconds that a machine under load may take for anything
 
 
-def until(condition, what):
-    """Waits for `condition()` to be true, and returns what it gave."""
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
+def until(condition, what, meanwhile=None):
+    """Waits for `condition()` to be true, and returns what it gave. `meanwhile` is done once a second."""
+    start = time.monotonic()
+    done = 0
+    while (waited := time.monotonic() - start) < PATIENCE:
         found = condition()
         if found:
             return found
+        if meanwhile and waited > done + 1:
+            done = waited
+            meanwhile()
         time.sleep(0.05)
     raise AssertionError(f"waited in vain: {what}")
 

@@ -7,7 +7,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from screen import PATIENCE, Screen, until
+from screen import PATIENCE, Screen, as_ordinary_user, until
 
 PROGRAM = os.environ["TARNWICK"]
 TITLE = "untitled.bsw - Tarnwick"
@@ -45,7 +45,7 @@ class Journey(unittest.TestCase):
     def titles(self):
         """Of all windows that show."""
         found = self.screen.output("xdotool", "search", "--onlyvisible", "--name", ".", check=False).split()
-        return {self.screen.output("xdotool", "getwindowname", window).decode().strip() for window in found}
+        return {self.screen.title(window) for window in found}
 
     def middle(self, window):
         """Of a window with its frame."""
@@ -127,10 +127,7 @@ class Settings(Journey):
         self.keep(b"BackGroundColor= 13166320\n")
         self.store.parent.chmod(0o555)
         self.addCleanup(self.store.parent.chmod, 0o755)
-        # Permissions mean nothing to root, unless it lays its powers down.
-        powers = "-dac_override,-dac_read_search"
-        program = self.start(["setpriv", f"--bounding-set={powers}", f"--inh-caps={powers}", PROGRAM]
-                             if os.geteuid() == 0 else [PROGRAM])
+        program = self.start(as_ordinary_user([PROGRAM]))
         self.assertEqual(self.screen.settled().at(*SOMEWHERE), (240, 230, 200))
         self.refuses_to_save(program)
         self.assertEqual(self.store.read_bytes(), b"BackGroundColor= 13166320\n")
