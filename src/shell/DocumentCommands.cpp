@@ -6,6 +6,7 @@
 #include "dxf/modDXF.h"
 #include "entry/StepByStep.h"
 #include "print/modText.h"
+#include "shell/SavePath.h"
 #include "shell/modFailure.h"
 #include "store/modFiles.h"
 #include "store/modPath.h"
@@ -41,14 +42,6 @@ Box AlreadyOpenQuestion() {
           .Default = Button::Yes};
 }
 
-Box ReplaceQuestion(const std::string& path) {
-  return {.Title = "Save",
-          .Text = path + "\nThis file already exists.\nDo you want to replace it?",
-          .Offer = Buttons::YesNo,
-          .Shown = Icon::Warning,
-          .Default = Button::No};
-}
-
 bool Contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
@@ -65,7 +58,10 @@ std::size_t TitleStart(const std::string& path) {
   return last == std::string::npos ? 0 : last + 1;
 }
 
-/// Anywhere in the path, in any case.
+/// Anywhere in the path.
+bool HoldsExtension(const std::string& path) { return Contains(path, Extension); }
+
+/// The same in any case.
 bool HoldsDxf(const std::string& path) { return Contains(LowerCase(path), ".dxf"); }
 
 bool HasExtension(const std::string& path) { return Contains(path.substr(TitleStart(path)), "."); }
@@ -262,20 +258,18 @@ void DocumentCommands::ShowRefused(Refused refused) {
 
 // ---- save
 
-/// Asks where to save. The name gets the ending that it lacks; if the file with it exists, the dialog has not
-/// warned of that one.
+/// Asks where to save, and takes that place.
 bool DocumentCommands::TakeSaveName(bool warn) {
-  const std::optional<std::string> path = desk_.Process.Out.Files.AskSave({.Filter = std::string(SaveFilter),
-                                                                           .Folder = Design().SawDir(),
-                                                                           .Name = Design().FileName,
-                                                                           .WarnBeforeReplacing = warn});
+  const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, desk_.Process.Out.Say,
+                                                      {.Filter = std::string(SaveFilter),
+                                                       .Folder = Design().SawDir(),
+                                                       .Name = Design().FileName,
+                                                       .WarnBeforeReplacing = warn},
+                                                      Extension, HoldsExtension);
   if (!path) return false;
-  const bool lacksExtension = !Contains(*path, Extension);
-  const std::string whole = lacksExtension ? *path + std::string(Extension) : *path;
-  if (warn && lacksExtension && FileExists(FilePath(whole)) && !MayReplace(whole)) return false;
-  const std::size_t title = TitleStart(whole);
-  Design().FileName = whole.substr(title);
-  Design().Settings.CurrentSawDir = whole.substr(0, title);
+  const std::size_t title = TitleStart(*path);
+  Design().FileName = path->substr(title);
+  Design().Settings.CurrentSawDir = path->substr(0, title);
   return true;
 }
 
@@ -335,25 +329,14 @@ bool DocumentCommands::MayClose() {
 
 // ---- export
 
-/// The path of a file to export, with its ending; nullopt when the user thinks better of it.
-/// @param isWhole  whether a path needs no ending
-std::optional<std::string> DocumentCommands::AskExportPath(const FileQuestion& question,
-                                                           std::string_view extension,
-                                                           bool (*isWhole)(const std::string&)) const {
-  std::optional<std::string> path = desk_.Process.Out.Files.AskSave(question);
-  if (!path || isWhole(*path)) return path;
-  std::string whole = *path + std::string(extension);
-  if (FileExists(FilePath(whole)) && !MayReplace(whole)) return std::nullopt;
-  return whole;
-}
-
 void DocumentCommands::ExportDxf() {
   if (busy_) return;
-  const std::optional<std::string> path = AskExportPath({.Filter = std::string(DxfFilter),
-                                                         .Folder = Design().SawDir(),
-                                                         .Name = UpToFirstPoint(Design().FileName) + ".dxf",
-                                                         .WarnBeforeReplacing = true},
-                                                        ".dxf", HoldsDxf);
+  const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, desk_.Process.Out.Say,
+                                                      {.Filter = std::string(DxfFilter),
+                                                       .Folder = Design().SawDir(),
+                                                       .Name = UpToFirstPoint(Design().FileName) + ".dxf",
+                                                       .WarnBeforeReplacing = true},
+                                                      ".dxf", HoldsDxf);
   if (!path) return;
   {
     const Work work(*this);
@@ -366,11 +349,12 @@ void DocumentCommands::ExportDxf() {
 
 void DocumentCommands::SaveText() {
   if (busy_) return;
-  const std::optional<std::string> path = AskExportPath({.Filter = std::string(TextFilter),
-                                                         .Folder = Design().SawDir(),
-                                                         .Name = UpToFirstPoint(Design().FileName) + ".txt",
-                                                         .WarnBeforeReplacing = true},
-                                                        ".txt", HasExtension);
+  const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, desk_.Process.Out.Say,
+                                                      {.Filter = std::string(TextFilter),
+                                                       .Folder = Design().SawDir(),
+                                                       .Name = UpToFirstPoint(Design().FileName) + ".txt",
+                                                       .WarnBeforeReplacing = true},
+                                                      ".txt", HasExtension);
   if (!path) return;
   const SawInfo rows = BuildSawInfo(Design().Saw, Design().Format(), 0);
   (void)SaveTextFile(rows, Design().FileName, FilePath(*path));  // says nothing of its own

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -87,9 +86,6 @@ class DocumentCommands {
   void ShowRefused(Refused refused);
   bool TakeSaveName(bool warn);
   [[nodiscard]] bool MayReplace(const std::string& path) const;
-  [[nodiscard]] std::optional<std::string> AskExportPath(const FileQuestion& question,
-                                                         std::string_view extension,
-                                                         bool (*isWhole)(const std::string&)) const;
   bool Write(std::string_view procedure);
   void TellFailure(std::error_code failure, std::string_view procedure) const;
   void Recalculate();

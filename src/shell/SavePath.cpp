@@ -18,7 +18,8 @@ std::optional<std::string> AskSavePath(FileDialogs& files, Messages& say, const 
   std::optional<std::string> path = files.AskSave(question);
   if (!path || isWhole(*path)) return path;
   std::string whole = *path + std::string(extension);
-  if (FileExists(FilePath(whole)) && say.Show(ReplaceQuestion(whole)) != Button::Yes) return std::nullopt;
+  const bool asks = question.WarnBeforeReplacing && FileExists(FilePath(whole));
+  if (asks && say.Show(ReplaceQuestion(whole)) != Button::Yes) return std::nullopt;
   return whole;
 }
 

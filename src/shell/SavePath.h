@@ -10,7 +10,7 @@
 namespace tarnwick {
 
 /// Where to write a file: the path chosen, with its ending. The dialog has not warned of the name with an
-/// ending that was added, so an existing file of that name is asked about here.
+/// ending that was added, so where it warns at all, an existing file of that name is asked about here.
 /// @param extension  with its point
 /// @param isWhole    whether a path needs no ending
 /// @return nullopt when the user thinks better of it
