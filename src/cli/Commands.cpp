@@ -12,6 +12,8 @@
 #include "cli/Streams.h"
 #include "dxf/modDXF.h"
 #include "model/modZoom.h"
+#include "power/modPowerChain.h"
+#include "power/modPowerRequired.h"
 #include "store/modSave.h"
 #include "window/modSvg.h"
 
@@ -29,14 +31,26 @@ Problem WriteToStandardOutput(std::string_view bytes) {
   return WriteProblem("standard output", WriteStandardOutput(bytes));
 }
 
-Problem PrintJson(const Options& options, const std::string& name) {
-  Design design = ReadDesign(name);
+/// Appends the members of a line of JSON behind the name of the design, each with its comma ahead.
+using AppendMembers = void (*)(const Options& options, std::string& line, Design& design);
+
+/// Prints a line for each design that the name stands for.
+Problem PrintLines(const Options& options, const std::string& name, AppendMembers append) {
+  std::string lines;
+  for (Design& design : ReadDesigns(name)) {
+    if (design.Failed) return design.Failed;
+    lines += R"({"file":)";
+    AppendString(lines, name);
+    if (design.Calculation > 0) lines += R"(,"calculation":)" + std::to_string(design.Calculation);
+    append(options, lines, design);
+    lines += "}\n";
+  }
+  return WriteToStandardOutput(lines);
+}
+
+void AppendJson(const Options& options, std::string& line, Design& design) {
   EntityList drawing;
   if (!options.WithoutCalculation) drawing = Calculate(design, ScopeOf(options), options.Settings);
-  if (design.Failed) return design.Failed;
-
-  std::string line = R"({"file":)";
-  AppendString(line, name);
   line += R"(,"saw":)";
   AppendRecordJson(line, design.Saw);
   if (!options.WithoutCalculation) {
@@ -51,8 +65,27 @@ Problem PrintJson(const Options& options, const std::string& name) {
     line += R"(,"entities":)";
     AppendEntitiesJson(line, drawing);
   }
-  line += "}\n";
-  return WriteToStandardOutput(line);
+}
+
+/// What a design lacks for its power figures is no failure: those that can be worked out are, the others
+/// are 0.
+void AppendPower(const Options& options, std::string& line, Design& design) {
+  if (!options.WithoutCalculation) (void)Calculate(design, Scope::WholeBand, options.Settings);
+  const PowerSettings settings{options.Settings.DecimalPlaces, options.GulletFeedIndex};
+  UpdatePower(design.Saw, settings);
+  if (const std::string missing = MissingPowerData(design.Saw); !missing.empty()) {
+    design.Notes.push_back(missing);
+  }
+  line += R"(,"power":)";
+  AppendPowerJson(line, design.Saw, settings.GulletFeedIndex);
+  if (options.Estimate) {
+    if (const auto rows = BuildPowerEstimates(design.Saw, *options.Estimate, settings)) {
+      line += R"(,"estimates":)";
+      AppendEstimatesJson(line, *rows);
+    }
+  }
+  line += R"(,"messages":)";
+  AppendMessagesJson(line, design.Notes);
 }
 
 /// The text of a file that shows a drawing; nullopt when it would be too large.
@@ -110,7 +143,11 @@ ExitCode ForEachDesign(const Options& options, const std::function<Problem(const
 ExitCode RunCommand(const Options& options) {
   switch (options.Asked) {
     case Command::Json:
-      return ForEachDesign(options, [&](const std::string& name) { return PrintJson(options, name); });
+      return ForEachDesign(options,
+                           [&](const std::string& name) { return PrintLines(options, name, AppendJson); });
+    case Command::Power:
+      return ForEachDesign(options,
+                           [&](const std::string& name) { return PrintLines(options, name, AppendPower); });
     case Command::Dxf: {
       Output output(options, ".dxf");
       const auto text = [&](const EntityList& list) { return DxfText(list, options.Settings); };

@@ -13,7 +13,7 @@ constexpr std::string_view RecordKey = "saw";
 
 /// What the tool prints beside the record.
 bool StandsBesideRecord(std::string_view key) {
-  constexpr std::string_view keys[] = {"file", "header", "extents", "messages", "entities"};
+  constexpr std::string_view keys[] = {"file", "calculation", "header", "extents", "messages", "entities"};
   return std::find(std::begin(keys), std::end(keys), key) != std::end(keys);
 }
 

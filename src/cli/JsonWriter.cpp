@@ -174,6 +174,31 @@ struct EntityWriter {
   }
 };
 
+void AppendEstimate(std::string& json, const PowerEstimate& row) {
+  Object(json)
+      .Number("Marker", row.Marker)
+      .Number("WheelDia", row.WheelDia)
+      .Number("CenterToCenter", row.CenterToCenter)
+      .Number("Width", row.Width)
+      .Number("Length", row.Length)
+      .Number("Pitch", row.Pitch)
+      .Number("NumTeeth", row.NumTeeth)
+      .Number("PlateThick", row.PlateThick)
+      .Number("Kerf", row.Kerf)
+      .Number("SideClear", row.SideClear)
+      .Number("ShaftSpeed", row.ShaftSpeed)
+      .Number("SawVelocity", row.SawVelocity)
+      .Number("DepthOfCut", row.DepthOfCut)
+      .Number("FeedRate", row.FeedRate)
+      .Text("WoodType", row.WoodType.View())
+      .Number("HorsePower", row.HorsePower)
+      .Number("Bite", row.Bite)
+      .Number("GulletArea", row.GulletArea)
+      .Number("AreaBelowTip", row.AreaBelowTip)
+      .Number("Capacity", row.Capacity)
+      .Number("FeedIndex", row.FeedIndex);
+}
+
 }  // namespace
 
 void AppendRecordJson(std::string& json, const BandSaw& saw) {
@@ -199,6 +224,28 @@ void AppendExtentsJson(std::string& json, const Extents& extents) {
       .Number("MaxX", extents.MaxX)
       .Number("CenterX", extents.CenterX)
       .Number("CenterY", extents.CenterY);
+}
+
+void AppendPowerJson(std::string& json, const BandSaw& saw, double feedIndex) {
+  Object(json)
+      .Number("SawVelocity", saw.DesignInfo.SawVelocity)
+      .Number("SideClear", saw.GeneralInfo.SideClear)
+      .Number("Bite", saw.GulletInfo.Bite)
+      .Number("Capacity", saw.GulletInfo.Capacity)
+      .Number("HorsePower", saw.GeneralInfo.HorsePower)
+      .Number("MaxFeedRate", saw.DesignInfo.MaxFeedRate)
+      .Number("AreaBelowTip", feedIndex * saw.GulletInfo.Area)
+      .Number("FeedIndex", feedIndex);
+}
+
+void AppendEstimatesJson(std::string& json, const PowerEstimates& rows) {
+  Separator separator;
+  json += '[';
+  for (const PowerEstimate& row : rows) {
+    separator.Next(json);
+    AppendEstimate(json, row);
+  }
+  json += ']';
 }
 
 void AppendMessagesJson(std::string& json, const std::vector<std::string>& messages) {

@@ -6,6 +6,7 @@
 #include "model/modBandSaw.h"
 #include "model/modEntity.h"
 #include "model/modZoom.h"
+#include "power/modPowerEstimate.h"
 
 namespace tarnwick::cli {
 
@@ -16,6 +17,13 @@ void AppendRecordJson(std::string& json, const BandSaw& saw);
 void AppendHeaderJson(std::string& json, const EntityList& drawing);
 
 void AppendExtentsJson(std::string& json, const Extents& extents);
+
+/// The power figures of a design in the order in which they are worked out, with what the feed index makes of
+/// the gullet.
+void AppendPowerJson(std::string& json, const BandSaw& saw, double feedIndex);
+
+/// The four rows of the estimates as objects by their members' names.
+void AppendEstimatesJson(std::string& json, const PowerEstimates& rows);
 
 void AppendMessagesJson(std::string& json, const std::vector<std::string>& messages);
 

@@ -2,10 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cmath>
 #include <iostream>
 #include <memory>
 #include <string_view>
 
+#include "model/modDecim.h"
 #include "store/modCfg.h"
 #include "store/modUserStore.h"
 #include "version.h"
@@ -16,12 +18,14 @@ namespace {
 constexpr const char* AboutDesigns =
     "A DESIGN is a .bsw file, a .json file with one design as nested objects by the record's member\n"
     "names (or an object that holds them under \"saw\"), or - for the same JSON on standard input.\n"
-    "In JSON a missing field is zero and an unknown one an error.\n\n"
+    "In JSON a missing field is zero and an unknown one an error. json and power take .bsp files too,\n"
+    "and print a line for each of the two calculations.\n\n"
     "Exit code: 0 all done, 1 some design failed (each is named on standard error, the others are done),\n"
     "2 wrong usage.";
 
 constexpr const char* DefaultsFlag = "--defaults";
 constexpr const char* EvalName = "eval";
+constexpr double LeastFeedIndex = 1, WholeGullet = 100;  // percent
 
 constexpr const char* AboutTexts =
     "A TEXT is what may be typed into a box for a measure: 3/4, \"12 3/4 in\", \"5 ft 6 in\",\n"
@@ -90,6 +94,22 @@ CLI::App& AddJson(CLI::App& app, Options& options) {
   return json;
 }
 
+CLI::App& AddPower(CLI::App& app, Options& options) {
+  CLI::App& power = AddCommand(
+      app, "power", "Print the power figures of each design, calculated, as one line of JSON", options);
+  power
+      .add_option("--estimate", options.Estimate,
+                  "Print estimates too: the figures as they are, and for feed rates that rise by this much")
+      ->type_name("PERCENT");
+  power
+      .add_option("--feed-index", options.FeedIndexPercent,
+                  "How much of the gullet carries sawdust, in place of the user's own setting")
+      ->type_name("PERCENT");
+  power.add_flag("--no-calculation", options.WithoutCalculation,
+                 "Take the gullet and the other measures as read, and work the power figures out of them");
+  return power;
+}
+
 CLI::App& AddDxf(CLI::App& app, Options& options) {
   CLI::App& dxf = AddCommand(app, "dxf", "Write the drawing of each design as a DXF file", options);
   AddOutput(dxf, options, ".dxf");
@@ -140,12 +160,24 @@ std::vector<std::string> ArgumentsOf(int argc, const char* const* argv) {
 
 /// What the parser cannot know: where the results of a command go.
 void CheckOutput(const Options& options) {
-  if (options.Asked == Command::Json || options.Asked == Command::Eval) return;
+  const Command asked = options.Asked;
+  if (asked == Command::Json || asked == Command::Power || asked == Command::Eval) return;
   if (options.OutputFile.empty() && options.OutputFolder.empty()) {
     throw CLI::RequiredError("-o FILE or --out-dir DIR");
   }
   if (!options.OutputFile.empty() && options.Designs.size() > 1) {
     throw CLI::ValidationError("-o", "takes one design only; use --out-dir for several");
+  }
+}
+
+/// Percentages that mean something; the parser would take a nan for a number in any range.
+void CheckPercents(const Options& options) {
+  if (options.Estimate && !(*options.Estimate > 0 && std::isfinite(*options.Estimate))) {
+    throw CLI::ValidationError("--estimate", "takes a number above 0");
+  }
+  const std::optional<double> index = options.FeedIndexPercent;
+  if (index && !(*index >= LeastFeedIndex && *index <= WholeGullet)) {
+    throw CLI::ValidationError("--feed-index", "takes a number from 1 to 100");
   }
 }
 
@@ -161,10 +193,12 @@ std::string WrongUsageText(const CLI::App*, const CLI::Error& why) {
 }
 
 /// What counts where the command line says nothing: the user's settings, as the window program keeps them.
-CalculationSettings UsersSettings() {
+void TakeUsersSettings(Options& options) {
   Config config;
   const std::unique_ptr<SettingsStore> store = UserSettingsStore();
-  return ReadConfig(config, *store) ? config.Calculation : CalculationSettings{};
+  if (!ReadConfig(config, *store)) return;
+  options.Settings = config.Calculation;
+  options.GulletFeedIndex = config.GulletFeedIndex;
 }
 
 bool AsksForDefaults(int argc, const char* const* argv) {
@@ -175,13 +209,14 @@ bool AsksForDefaults(int argc, const char* const* argv) {
 
 std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) {
   Options options;
-  if (!AsksForDefaults(argc, argv)) options.Settings = UsersSettings();
+  if (!AsksForDefaults(argc, argv)) TakeUsersSettings(options);
   CLI::App app("Tarnwick: designs of band saw blades, their figures and their drawings", "tarnwick-cli");
   AddOptionsForAll(app, options);
   app.require_subcommand(1);
   app.failure_message(WrongUsageText);
   app.footer("tarnwick-cli COMMAND --help tells more of a command.\n\n" + std::string(AboutDesigns));
   AddJson(app, options).callback([&options] { options.Asked = Command::Json; });
+  AddPower(app, options).callback([&options] { options.Asked = Command::Power; });
   AddDxf(app, options).callback([&options] { options.Asked = Command::Dxf; });
   AddSvg(app, options).callback([&options] { options.Asked = Command::Svg; });
   AddBsw(app, options).callback([&options] { options.Asked = Command::Bsw; });
@@ -189,8 +224,13 @@ std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) 
   try {
     app.parse(ArgumentsOf(argc, argv));
     CheckOutput(options);
+    CheckPercents(options);
   } catch (const CLI::ParseError& why) {
     return Leave(app, why);
+  }
+  if (options.FeedIndexPercent) {
+    options.GulletFeedIndex =
+        RoundTo(*options.FeedIndexPercent / WholeGullet, options.Settings.DecimalPlaces);
   }
   return options;
 }

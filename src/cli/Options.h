@@ -1,15 +1,17 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
 #include "cli/ExitCode.h"
 #include "model/modSettings.h"
+#include "power/modFeedIndex.h"
 
 namespace tarnwick::cli {
 
-enum class Command { Json, Dxf, Svg, Bsw, Eval };
+enum class Command { Json, Power, Dxf, Svg, Bsw, Eval };
 
 /// Name of a design or an output that stands for standard input or output.
 inline constexpr const char* StandardStream = "-";
@@ -22,8 +24,12 @@ struct Options {
   CalculationSettings Settings;
   bool DefaultSettings{};  // start from the defaults, whatever the user has set
 
+  double GulletFeedIndex = DefaultGulletFeedIndex;  // power
+  std::optional<double> FeedIndexPercent;           // as given
+  std::optional<double> Estimate;                   // power: percent by which the feed rate rises
+
   bool WithEntities{};        // json: the drawing list too
-  bool WithoutCalculation{};  // json: the record as read
+  bool WithoutCalculation{};  // json, power: the record as read
   bool WithCalculation{};     // bsw: the record as calculated
   bool Segment{};             // one segment of a variable band in place of the whole band
 
