@@ -181,8 +181,10 @@ void frmMain::BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors
     editors_.TypeInto(field, text.toStdString());
   });
   connect(&panel, &FieldPanel::TypingEnded, this, [this] { FillBoxes(); });  // "12x" saws are 12
-  connect(&panel, &FieldPanel::Ticked, this,
-          [this](bool ticked) { Run("chkBothEdges", [&] { editors_.TickBothEdges(ticked); }); });
+  connect(&panel, &FieldPanel::Ticked, this, [this](bool ticked) {
+    Run("chkBothEdges", [&] { editors_.TickBothEdges(ticked); });
+    FillBoxes();  // a click turns the mark by itself, whatever comes of the command
+  });
   connect(&panel, &FieldPanel::Accepted, this, [this, ok] { Run("cmdOk", [&] { (editors_.*ok)(); }); });
   connect(&panel, &FieldPanel::Cancelled, this,
           [this, cancel] { Run("cmdCancel", [&] { (editors_.*cancel)(); }); });

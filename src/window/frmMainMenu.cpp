@@ -33,10 +33,10 @@ QMenu* frmMain::AddSubmenu(QMenu* menu, const char* name, const char* caption) {
   return submenu;
 }
 
-/// An item has the hint of its button.
+/// An item has the hint of its button. The toolkit counts a mouse over that as one over the item, too.
 void frmMain::ShowHintsOf(QMenu* menu) {
-  connect(menu, &QMenu::hovered, this, [this](const QAction* item) {
-    ShowStatus(NumberedText(HintOfItem(item->objectName().toStdString())), "");
+  connect(menu, &QMenu::hovered, this, [this, menu](const QAction* item) {
+    if (menu->isVisible()) ShowStatus(NumberedText(HintOfItem(item->objectName().toStdString())), "");
   });
   connect(menu, &QMenu::aboutToHide, this, [this] { ShowStatus("", ""); });
 }

@@ -97,12 +97,13 @@ class DialogUser final : public QObject {
   }
 
   std::deque<Act> Acts;
-  QStringList Seen;  // "frmCDialog: Band Saw Length", in order; and complaints
+  QStringList Seen;                 // "frmCDialog: Band Saw Length", in order; and complaints
+  const QDialog* Window = nullptr;  // the one that is tested; no answer is due to it
 
  private:
   void Look() {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (busy_ || !dialog || !dialog->isVisible()) return;
+    if (busy_ || !dialog || !dialog->isVisible() || dialog == Window) return;
     busy_ = true;
     Seen += dialog->objectName() + ": " + dialog->windowTitle();
     if (Acts.empty()) {
@@ -168,6 +169,14 @@ class MainWindow {
  public:
   void Open(const BandSaw& saw) { OpenFile(Folder.File("head.bsw", BandSawText(saw)).string()); }
   void OpenBlank() { OpenFile({}); }
+  /// Starts the program as a desktop does, on a file or on none.
+  void OpenFile(const std::string& path) {
+    Program.Start(path);
+    Window = std::make_unique<frmMain>(Program.Process, Dialogs);
+    Window->show();
+    if (!QTest::qWaitForWindowActive(Window.get())) qFatal("the window does not come up");
+    QTest::qWait(5);  // the design is opened when the window is there
+  }
 
   OpenDesign& Design() { return Program.Process.Design; }
   const BandSaw& Saw() { return Design().Saw; }
@@ -231,15 +240,6 @@ class MainWindow {
   QtDialogHost Dialogs{Program.Help};
   std::unique_ptr<frmMain> Window;
   DialogUser User;
-
- private:
-  void OpenFile(const std::string& path) {
-    Program.Start(path);
-    Window = std::make_unique<frmMain>(Program.Process, Dialogs);
-    Window->show();
-    if (!QTest::qWaitForWindowActive(Window.get())) qFatal("the window does not come up");
-    QTest::qWait(5);  // the design is opened when the window is there
-  }
 };
 
 }  // namespace tarnwick::test
