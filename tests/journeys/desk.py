@@ -180,14 +180,18 @@ class Desk(unittest.TestCase):
         self.front(caption)
         self.screen.keys("alt+f", *keys)
 
-    def change(self, caption, angle):
-        """Gives the band another hook angle: a click on its row, and the dialog of the row."""
+    def type_hook(self, caption, angle):
+        """A click on the row of the hook angle, and what is typed in its dialog."""
         self.front(caption)
         picture = self.screen.picture()
         top = next(y for y in range(60, picture.height) if picture.at(PANEL, y) == WHITE)
         self.screen.mouse("mousemove", PANEL, round(top + ROW_HEIGHT * (HOOK_ROW + 0.5)), "click", 1)
         self.front("Hook Angle")
         self.screen.type(str(angle))
+
+    def change(self, caption, angle):
+        """Gives the band another hook angle."""
+        self.type_hook(caption, angle)
         self.answer("Hook Angle", "Return")
         self.front(caption)
         until(lambda: angle in self.kept(), "the change kept for the day after a crash")

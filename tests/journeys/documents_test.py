@@ -99,6 +99,17 @@ class Documents(Desk):
         self.assertEqual([path.name for path in self.recent()], ["neck.bsw", "head.bsw"])
         self.assertEqual(list(self.copies.iterdir()), [])
 
+    def test_a_window_that_saves_closes_when_it_is_done(self):
+        design = self.design("head.bsw")
+        program = self.open(design)
+        self.change(HEAD, 11)
+        self.file(HEAD, "s")
+        self.answer("Save", "alt+y")
+        self.screen.keys("alt+F4")
+        self.left(program)
+        self.assertEqual(read(design)["HookAngle"], 11)
+        self.assertEqual(list(self.copies.iterdir()), [])
+
     def test_a_file_is_replaced_only_after_a_question(self):
         design, other = self.design("head.bsw"), self.design("neck.bsw", 20)
         before = design.read_bytes()

@@ -21,8 +21,7 @@ class Recovery(Desk):
         before = design.read_bytes()
         program = self.open(design)
         self.change(HEAD, 11)
-        # In the midst of the next change.
-        self.screen.keys("alt+d", "t")
+        self.type_hook(HEAD, 12)  # in the midst of the next change
         self.kill(program)
         self.assertEqual(design.read_bytes(), before)
 
