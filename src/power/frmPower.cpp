@@ -70,6 +70,7 @@ QGroupBox* frmPower::MakeFigures() {
   columns->setSpacing(ColumnGap);
   columns->addLayout(given, 1);
   columns->addLayout(right, 1);
+  MayStack(columns);
   return frame;
 }
 
@@ -116,43 +117,42 @@ QGroupBox* frmPower::MakeEstimates() {
   auto* caption = new QLabel(tr("Increase Feed Rate "));
   caption->setObjectName("lblPercent");
   caption->setTextFormat(Qt::PlainText);
-  auto* cmdView = new QPushButton(tr("View Results"));
-  cmdView->setObjectName("cmdView");
-  cmdView->setAccessibleName(cmdView->text());
-  cmdView->setAutoDefault(true);
-  connect(cmdView, &QPushButton::clicked, this, [this] {
-    editor_.PressView();
-    ShowState();
-  });
 
   estimates_ = new QHBoxLayout(frame);
   estimates_->setSpacing(Gap);
   estimates_->addWidget(caption);
   estimates_->addWidget(cboPercent_);
-  estimates_->addWidget(cmdView);
+  cmdView_ = MakeEstimateButton("cmdView", tr("View Results"), [this] { editor_.PressView(); });
+  estimates_->addWidget(cmdView_);
   estimates_->addStretch();
   return frame;
 }
 
-void frmPower::AddPrint(std::function<void()> print) {
-  auto* cmdPrint = new QPushButton(tr("Print Results"));
-  cmdPrint->setObjectName("cmdPrint");
-  cmdPrint->setAccessibleName(cmdPrint->text());
-  connect(cmdPrint, &QPushButton::clicked, this, [this, print = std::move(print)] {
-    print();
+QPushButton* frmPower::MakeEstimateButton(const char* name, const QString& caption,
+                                          std::function<void()> command) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  button->setAccessibleName(caption);
+  button->setMinimumWidth(button->sizeHint().width() + 2 * Gap);
+  connect(button, &QPushButton::clicked, this, [this, command = std::move(command)] {
+    command();
     ShowState();
   });
-  auto* cmdView = findChild<QPushButton*>("cmdView");
-  estimates_->insertWidget(estimates_->indexOf(cmdView) + 1, cmdPrint);
-  setTabOrder(cmdView, cmdPrint);
+  return button;
+}
+
+void frmPower::AddPrint(std::function<void()> print) {
+  QPushButton* cmdPrint = MakeEstimateButton("cmdPrint", tr("Print Results"), std::move(print));
+  estimates_->insertWidget(estimates_->indexOf(cmdView_) + 1, cmdPrint);
+  setTabOrder(cmdView_, cmdPrint);
 }
 
 QHBoxLayout* frmPower::MakeFoot() {
   auto* foot = new QHBoxLayout;
   foot->setSpacing(Gap);
   foot->addStretch();
-  const auto add = [this, foot](const char* name, const QString& caption, const QString& spoken, int hint) {
-    auto* button = new QPushButton(caption, this);
+  const auto add = [foot](const char* name, const QString& caption, const QString& spoken, int hint) {
+    auto* button = new QPushButton(caption);
     button->setObjectName(name);
     button->setAccessibleName(spoken);
     button->setAccessibleDescription(ToQt(NumberedText(hint)));

@@ -9,6 +9,7 @@
 class QComboBox;
 class QGroupBox;
 class QHBoxLayout;
+class QPushButton;
 
 namespace tarnwick {
 
@@ -30,6 +31,7 @@ class frmPower final : public FormWindow {
   QGroupBox* MakeFigures();
   QGroupBox* MakeGulletCapacity();
   QGroupBox* MakeEstimates();
+  QPushButton* MakeEstimateButton(const char* name, const QString& caption, std::function<void()> command);
   QHBoxLayout* MakeFoot();
 
   void LeavePercent();
@@ -40,6 +42,7 @@ class frmPower final : public FormWindow {
   QComboBox* cboFeedIndex_ = nullptr;
   QComboBox* cboPercent_ = nullptr;
   QHBoxLayout* estimates_ = nullptr;
+  QPushButton* cmdView_ = nullptr;
 };
 
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -18,6 +17,8 @@ namespace tarnwick {
 namespace {
 
 constexpr int Topic = 430;
+constexpr int RowGap = 2;    // seventeen rows, on the smallest screen too
+constexpr int FrameGap = 4;  // above and below what is in a frame
 
 QString Suffix(std::size_t side) { return QString("(%1)").arg(side); }
 
@@ -37,10 +38,10 @@ frmPowerCalc::frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, QWidge
   foot->setSpacing(Margin);
   foot->addWidget(MakeFeedIndex());
   foot->addLayout(MakeButtons(), 1);
+  foot->setAlignment(buttons_, Qt::AlignBottom);
+  MayStack(sides);
+  MayStack(foot);
   Arrange(sides, foot);
-  if (foot->sizeHint().width() > screen()->availableSize().width()) {
-    foot->setDirection(QBoxLayout::TopToBottom);
-  }
   ShowState();
 }
 
@@ -58,6 +59,7 @@ QGroupBox* frmPowerCalc::MakeSide(std::size_t side, const QString& caption, cons
   auto* frame = new QGroupBox(caption);
   frame->setObjectName("fraPowerCalc" + Suffix(side));
   auto* grid = new MeasureGrid;
+  grid->setVerticalSpacing(RowGap);
   boxes_[side].AddTo(
       *grid, {HPSawOD, Centers, Length, ToothPitch, NumTeeth, HPPlateThick, HPToothWidth, SideClearance, RPMs,
               SawVelocity, MaxDepth, FeedRate, SpecificEnergy, Bite, HPGulletArea, Capacity, HorsePower});
@@ -67,7 +69,8 @@ QGroupBox* frmPowerCalc::MakeSide(std::size_t side, const QString& caption, cons
   cmdClear->setAccessibleName(clear);
 
   auto* column = new QVBoxLayout(frame);
-  column->setSpacing(Gap);
+  column->setContentsMargins(Gap, FrameGap, Gap, FrameGap);
+  column->setSpacing(FrameGap);
   column->addLayout(grid);
   column->addStretch();
   column->addWidget(cmdClear, 0, Qt::AlignRight);
@@ -90,6 +93,7 @@ QGroupBox* frmPowerCalc::MakeFeedIndex() {
     ShowState();
   });
   auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(Gap, FrameGap, Gap, FrameGap);
   row->setSpacing(Gap);
   row->addWidget(label);
   row->addWidget(cboFeedIndex_);
@@ -100,20 +104,21 @@ QGroupBox* frmPowerCalc::MakeFeedIndex() {
 QBoxLayout* frmPowerCalc::MakeButtons() {
   buttons_ = new QHBoxLayout;
   buttons_->setSpacing(Gap);
+  buttons_->setContentsMargins(0, 0, 0, 2 * FrameGap);  // in line with the list beside them
   buttons_->addStretch();
   buttons_->addWidget(MakeButton("cmdCopy", tr("&Copy"), [this] { calculator_.PressCopy(); }));
   buttons_->addWidget(MakeButton("cmdNew", tr("&New"), [this] { calculator_.PressNew(); }));
   buttons_->addWidget(MakeButton("cmdOpen", tr("&Open"), [this] { calculator_.PressOpen(); }));
   buttons_->addWidget(MakeButton("cmdSave", tr("&Save"), [this] { calculator_.PressSave(); }));
-  cmdExit_ = MakeButton("cmdExit", tr("E&xit"), [this] { reject(); });
-  buttons_->addWidget(cmdExit_);
+  buttons_->addSpacing(Margin);
+  buttons_->addWidget(MakeButton("cmdExit", tr("E&xit"), [this] { reject(); }));
   return buttons_;
 }
 
 /// Enter presses the button that has the focus, and no other: none of them is what one has come here for.
 QPushButton* frmPowerCalc::MakeButton(const char* name, const QString& caption,
                                       std::function<void()> command) {
-  auto* button = new QPushButton(caption, this);
+  auto* button = new QPushButton(caption);
   button->setObjectName(name);
   button->setAccessibleName(QString(caption).remove('&').trimmed());
   button->setAutoDefault(false);
@@ -126,8 +131,9 @@ QPushButton* frmPowerCalc::MakeButton(const char* name, const QString& caption,
 
 void frmPowerCalc::AddPrint(std::function<void()> print) {
   QPushButton* cmdPrint = MakeButton("cmdPrint", tr("&Print"), std::move(print));
-  buttons_->insertWidget(buttons_->indexOf(cmdExit_), cmdPrint);
-  setTabOrder(findChild<QPushButton*>("cmdSave"), cmdPrint);
+  auto* cmdSave = findChild<QPushButton*>("cmdSave");
+  buttons_->insertWidget(buttons_->indexOf(cmdSave) + 1, cmdPrint);
+  setTabOrder(cmdSave, cmdPrint);
 }
 
 // ---- what is done to it

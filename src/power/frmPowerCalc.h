@@ -41,7 +41,6 @@ class frmPowerCalc final : public FormWindow {
   PowerCalculator& calculator_;
   std::array<PowerBoxes, Sides> boxes_;
   QComboBox* cboFeedIndex_ = nullptr;
-  QPushButton* cmdExit_ = nullptr;
   QBoxLayout* buttons_ = nullptr;
 };
 

@@ -130,8 +130,9 @@ QListWidget* frmPowerEst::MakeLines() {
 void frmPowerEst::DisplayPowerSets() {
   picPowerEst_->clear();
   for (const PowerLine& line : estimates_.Lines()) {
-    const QString label = ToQt(line.Label), text = ToQt(line.MarkedText());
-    auto* shown = new QListWidgetItem((label + text).trimmed(), picPowerEst_);
+    // The wood has no blank ahead as the numbers have: in their column all begin alike.
+    const QString label = ToQt(line.Label), text = ToQt(line.MarkedText()).trimmed();
+    auto* shown = new QListWidgetItem((label + ' ' + text).trimmed(), picPowerEst_);
     shown->setData(LabelRole, label);
     shown->setData(TextRole, text);
     shown->setData(HeadingRole, line.Is == PowerLine::Role::Heading);

@@ -62,10 +62,10 @@ inline QStringList Clipped(const QWidget& window, const QStringList& names) {
   return clipped;
 }
 
-/// The names of the controls that Tab reaches, beginning where the focus is.
-inline QStringList TabOrder(QWidget& window) {
+/// The names of the controls that Tab reaches, beginning where the focus is; no more than `most`.
+inline QStringList TabOrder(QWidget& window, int most = 20) {
   QStringList order;
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < most; ++i) {
     const QString name = window.focusWidget()->objectName();
     if (order.contains(name)) break;
     order.append(name);

@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -77,19 +78,41 @@ void FormWindow::Arrange(QLayout* boxes, QLayout* foot) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(Margin);
-  column->addWidget(new BoxArea(page), 1);
+  area_ = new BoxArea(page);
+  column->addWidget(area_, 1);
   column->addLayout(foot);
   for (QComboBox* list : findChildren<QComboBox*>()) new WheelPassedOn(list);
 }
 
-/// The toolkit would open a window on two thirds of the screen at most, however many boxes it has.
-void FormWindow::setVisible(bool visible) {
-  if (visible && !testAttribute(Qt::WA_Resized)) {
-    for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    resize(sizeHint().boundedTo(screen()->availableSize() - QSize(0, titleBar)));
+/// Lays the rows that are too wide out anew. What is not seen yet does not ask for its new size by itself,
+/// and an area that scrolls does not follow what is in it.
+void FormWindow::StackRows(int room) {
+  constexpr int Around = 4 * Margin;  // of the window, and of a frame in it
+  for (QBoxLayout* row : rows_) {
+    if (row->sizeHint().width() <= room - Around) continue;
+    row->setDirection(QBoxLayout::TopToBottom);
+    row->parentWidget()->updateGeometry();
   }
+  area_->updateGeometry();
+}
+
+/// The toolkit would open a window on two thirds of the screen at most, however many boxes it has.
+void FormWindow::FitScreen() {
+  for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+  const QSize room = screen()->availableSize() - QSize(0, titleBar);
+  if (area_ && sizeHint().width() > room.width()) StackRows(room.width());
+
+  QSize wanted = sizeHint();
+  if (area_ && wanted.height() > room.height()) {
+    wanted.rwidth() += area_->verticalScrollBar()->sizeHint().width();
+  }
+  resize(wanted.boundedTo(room));
+}
+
+void FormWindow::setVisible(bool visible) {
+  if (visible && !testAttribute(Qt::WA_Resized)) FitScreen();
   QDialog::setVisible(visible);
 }
 

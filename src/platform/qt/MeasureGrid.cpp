@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
 #include <utility>
 
 #include "platform/qt/MeasureBox.h"
@@ -15,10 +17,27 @@ constexpr int CaptionGap = 8;  // between a caption and its box
 constexpr int GroupGap = 12;
 constexpr int CaptionColumn = 0, BoxColumn = 1;
 
-/// A caption that is pressed like its box.
-class BoxCaption final : public QLabel {
+/// A caption that ends at its right edge; a blank at its end stands beyond that.
+class Caption : public QLabel {
  public:
-  BoxCaption(const QString& text, MeasureBox* box) : QLabel(text), box_(box) {
+  explicit Caption(const QString& text) : QLabel(text) {
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const int beyond = text().endsWith(' ') ? fontMetrics().horizontalAdvance(' ') : 0;
+    style()->drawItemText(&painter, rect().adjusted(0, 0, beyond, 0), static_cast<int>(alignment()),
+                          palette(), isEnabled(), text(), foregroundRole());
+  }
+};
+
+/// A caption that is pressed like its box.
+class BoxCaption final : public Caption {
+ public:
+  BoxCaption(const QString& text, MeasureBox* box) : Caption(text), box_(box) {
     setCursor(Qt::PointingHandCursor);
   }
 
@@ -73,13 +92,8 @@ MeasureBox* MeasureGrid::AddBox(const QString& name, const QString& caption, con
   box->SetOpens(press != Press::Result);
   if (press == Press::Result) new EnterPassedOn(box);
 
-  auto* label = press == Press::BoxAndCaption ? new BoxCaption(caption, box) : new QLabel(caption);
+  QLabel* label = press == Press::BoxAndCaption ? new BoxCaption(caption, box) : new Caption(caption);
   label->setObjectName("lbl" + name.mid(3));
-  label->setTextFormat(Qt::PlainText);
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  if (caption.endsWith(' ')) {  // the blank is the caption's own, but its colon stands below the others
-    label->setContentsMargins(0, 0, -label->fontMetrics().horizontalAdvance(' '), 0);
-  }
   const int row = rowCount();
   addWidget(label, row, CaptionColumn);
   addWidget(box, row, BoxColumn);

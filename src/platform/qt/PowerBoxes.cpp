@@ -13,7 +13,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* LongFigure = " 12.345.678 in² ";
+constexpr const char* LongFigure = " 1.234.567 in²";
 
 /// Room for the longest text that a box may have to show, and for its frame.
 int RoomFor(PowerBox box, const MeasureBox& shown) {
