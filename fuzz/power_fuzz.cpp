@@ -36,11 +36,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   constexpr std::size_t headerSize = tarnwick::PowerFileSize - imageSize;
   const std::string bytes(data, data + size);
   const tarnwick::PowerFileBytes read = tarnwick::ReadPowerFile(bytes);
-  if (read.Usable() == (read.State == tarnwick::PowerFileState::NotPowerFile)) std::abort();
+  const bool isWhole = read.State == tarnwick::PowerFileState::Complete;
+  if (read.Notes.size() != (isWhole ? 0 : 1)) std::abort();  // whatever is wrong is said, and once
   if (!read.Usable()) return 0;
 
-  const bool complete = size >= tarnwick::PowerFileSize;
-  if (complete != (read.State == tarnwick::PowerFileState::Complete)) std::abort();
+  if (isWhole != (size >= tarnwick::PowerFileSize)) std::abort();
   std::string images = bytes.substr(headerSize, imageSize);
   images.resize(imageSize, '\0');
   if (tarnwick::PowerFileText(read.Saws).substr(headerSize) != images) std::abort();
