@@ -1,0 +1,21 @@
+#pragma once
+
+#include "machine/MachineHost.h"
+#include "platform/HelpViewer.h"
+
+namespace tarnwick {
+
+/// The windows of the machine as dialogs above the window in use.
+class QtMachineHost final : public MachineHost {
+ public:
+  explicit QtMachineHost(HelpViewer& help) : help_(help) {}
+
+  void Run(BandCalculator& calculator) override;
+  void ShowPlateGauges(const DisplayFormat& format) override;
+  void SetBusy(bool busy) override;
+
+ private:
+  HelpViewer& help_;
+};
+
+}  // namespace tarnwick
