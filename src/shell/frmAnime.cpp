@@ -103,12 +103,16 @@ void frmAnime::Play() {
 /// Above the window's other widgets, so that it is seen although its place stands still.
 void frmAnime::Appear() {
   if (parentWidget() != place_->window()) setParent(place_->window());
-  const QPoint middle = place_->mapTo(place_->window(), place_->rect().center());
-  move(middle - rect().center());
+  MoveToTheMiddle();
   place_->setUpdatesEnabled(false);
   shown_ = true;
   show();
   raise();
+}
+
+void frmAnime::MoveToTheMiddle() {
+  const QPoint middle = place_->mapTo(place_->window(), place_->rect().center());
+  move(middle - rect().center());
 }
 
 /// Draws all pictures at once for a screen of `ratio` pixels to each of ours.
@@ -148,6 +152,10 @@ bool frmAnime::eventFilter(QObject* watched, QEvent* event) {
     ended_ = true;
     event->ignore();
     return true;
+  }
+  if (event->type() == QEvent::Resize && watched == place_) {
+    place_->setUpdatesEnabled(true);  // what it has drawn is of another size
+    MoveToTheMiddle();
   }
   const Input input = InputOf(*event);
   if (input == Input::None) return QWidget::eventFilter(watched, event);

@@ -11,7 +11,9 @@ namespace tarnwick {
 /// A band running over its wheels, in the middle of another widget, while a file is read or written.
 class frmAnime final : public QWidget {
  public:
-  /// @param place  where it plays: a widget in a window; it does not repaint meanwhile
+  /// @param place  where it plays: a widget in a window; it does not repaint meanwhile, unless it gets
+  /// another
+  ///               size
   frmAnime(QWidget& place, Clock& clock);
   ~frmAnime() override;
 
@@ -27,6 +29,7 @@ class frmAnime final : public QWidget {
 
  private:
   void Appear();
+  void MoveToTheMiddle();
   void DrawSheet(qreal ratio);
 
   QPointer<QWidget> place_;

@@ -75,6 +75,7 @@ class frmAnimeTest : public QObject {
   void isSharpOnAFineScreen();
   void standsInTheMiddleOfItsPlace();
   void keepsItsPlaceFromRepainting();
+  void goesWithItsPlace();
   void endsAtOnce_data();
   void endsAtOnce();
   void goesOnWhileAKeyIsHeld();
@@ -171,6 +172,26 @@ void frmAnimeTest::keepsItsPlaceFromRepainting() {
   QCOMPARE(place_->Painted, 0);
   anime_->Hide();
   QTRY_VERIFY(place_->Painted > 0);
+}
+
+// A window that has just come up may get its size from the desktop while the first file is read.
+void frmAnimeTest::goesWithItsPlace() {
+  int before = 0, painted = 0;
+  QPoint off;
+  clock_.During = [&](int wait) {
+    if (wait == 3) {
+      before = place_->Painted;
+      place_->resize(301, 201);
+    }
+    QApplication::processEvents();
+    if (wait != 5) return;
+    painted = place_->Painted - before;
+    off = anime_->mapTo(window_.get(), anime_->rect().center()) -
+          place_->mapTo(window_.get(), place_->rect().center());
+  };
+  anime_->Play();
+  QVERIFY(painted > 0);
+  QCOMPARE(off, QPoint());
 }
 
 void frmAnimeTest::endsAtOnce_data() {
