@@ -88,9 +88,15 @@ Texts Writes(const std::string& caption) {
   return {"caption " + caption, "busy", "animation", "no animation", "not busy"};
 }
 
-const Texts BlankBegins = {"caption untitled.bsw - Tarnwick", "units imperial", "rows blank", "boxes blank",
-                           "panel 1"};
-const Texts NewDesign = Script({BlankBegins, {"draw blank"}});
+Texts BlankIn(const std::string& units) {
+  return {"caption untitled.bsw - Tarnwick",
+          "units " + units,
+          "rows blank",
+          "boxes blank",
+          "panel 1",
+          "draw blank"};
+}
+const Texts NewDesign = BlankIn("imperial");
 
 // ---- the scene
 
@@ -326,14 +332,13 @@ TEST(StepByStepStory, MakesADesignThatIsNotSavedYet) {
   DocumentDesk desk;
   SetScene(desk);
   HeadChanged(desk);
+  desk.Process.Design.View.ZoomIn();
   desk.Answer({No});
   PlanSquareBack(desk);
   desk.Commands.NewStepByStep();
-  EXPECT_EQ(desk.Transcript(), Script({{BandawChanged + "no"},
-                                       BlankBegins,
-                                       {"draw blank"},
-                                       SquareBackQuestions,
-                                       {"draw 9", "rows 9", "boxes 9"}}));
+  EXPECT_EQ(
+      desk.Transcript(),
+      Script({{BandawChanged + "no"}, NewDesign, SquareBackQuestions, {"draw 9", "rows 9", "boxes 9"}}));
   const OpenDesign& design = desk.Process.Design;
   EXPECT_EQ(desk.State().substr(0, desk.State().rfind(" | ")),
             "untitled.bsw - Tarnwick | ~/ | 9 9 blank | ~/head.bsw | imperial");
@@ -353,16 +358,16 @@ TEST(StepByStepStory, LeavesABlankDesignWhenItsLengthIsDeclined) {
   DocumentDesk desk;
   SetScene(desk);
   Head(desk);
+  desk.Process.Design.Settings.MainImpMetric = 1;
   desk.Dialogs.Values = {test::Picks(0), test::Enters("60"), test::Cancels()};
   desk.Commands.NewStepByStep();
-  EXPECT_EQ(desk.Transcript(), Script({BlankBegins,
-                                       {"draw blank"},
+  EXPECT_EQ(desk.Transcript(), Script({BlankIn("metric"),
                                        Asks({"BandSaw Tooth Style", "Wheel Diameter", "Band Saw Length"}),
                                        {"draw blank", "rows blank", "boxes blank"}}));
   EXPECT_EQ(desk.State().find(Untitled), 0u);
   EXPECT_TRUE(desk.Process.Design.Lines.Entities.empty());
   desk.Commands.New();
-  EXPECT_EQ(desk.Transcript(), NewDesign);
+  EXPECT_EQ(desk.Transcript(), BlankIn("metric"));  // no question
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -665,6 +670,8 @@ TEST(RecoveryStory, BringsTheDesignBackAsAChangeOfItsFileInPlaceOfTheCommandLine
                                       "draw 11", "panel 1", "rows 11", "boxes 11"}));
   EXPECT_EQ(desk.State(), "head.bsw - Tarnwick | ~/ | 11 11 10 | none | imperial | 1.0");
   EXPECT_TRUE(std::filesystem::exists(desk.Copy())) << "until it is saved";
+  desk.Commands.Begin();
+  EXPECT_EQ(desk.Transcript(), Texts{}) << "the file of the command line does not push it aside later";
   desk.Answer({Yes});
   desk.Commands.Save();
   EXPECT_EQ(desk.Transcript().front(), Replace("~/head.bsw") + "yes");
