@@ -2,16 +2,11 @@
 
 #include <QCheckBox>
 #include <QEvent>
-#include <QFocusEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
@@ -24,9 +19,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int RowGap = 3;
-constexpr int CaptionGap = 8;   // between a caption and its box
-constexpr int HeadingGap = 10;  // above a heading
-constexpr int FootGap = 8;
+constexpr int CaptionGap = 8;  // between a caption and its box
 constexpr int CaptionColumn = 0, BoxColumn = 1;
 constexpr double BoxShare = 0.46;  // of the least width
 
@@ -39,50 +32,21 @@ bool OpensSomething(const PanelField& field) {
   return field.Act == BoxAct::Ask || field.Act == BoxAct::AskSeat;
 }
 
-bool IsTabStep(const QEvent* event) {
-  const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
-  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-}
-
 }  // namespace
 
 FieldPanel::FieldPanel(std::span<const PanelField> fields, Button ok, Button cancel, QWidget* parent)
-    : QWidget(parent) {
-  fields_ = new QScrollArea(this);
-  fields_->setFrameShape(QFrame::NoFrame);
-  fields_->setFocusPolicy(Qt::NoFocus);
-  fields_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    : PanelFrame(parent) {
   MakePage(fields);
-  fields_->setWidget(page_);
-  fields_->setWidgetResizable(true);
-
-  auto* edge = new QFrame(this);
-  edge->setFrameStyle(QFrame::HLine | QFrame::Plain);
-  edge->setForegroundRole(QPalette::Mid);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  column->addWidget(fields_, 1);
-  column->addWidget(edge);
-  column->addLayout(MakeFoot(ok, cancel));
+  MakeFoot(ok, cancel);
   SetWidth(LeastWidth(), 0);
 }
 
-/// A box that loses the focus while the panel goes has nobody left to tell.
-FieldPanel::~FieldPanel() {
-  for (const Line& line : lines_) {
-    line.Box->disconnect(this);
-    line.Box->removeEventFilter(this);
-    if (line.Caption) line.Caption->removeEventFilter(this);
-  }
-  for (const Foot& button : buttons_) button.Pressed->removeEventFilter(this);
-}
+FieldPanel::~FieldPanel() { EndWatching(); }
 
 // ---- making
 
 void FieldPanel::MakePage(std::span<const PanelField> fields) {
-  page_ = new QWidget(fields_);
-  auto* grid = new QGridLayout(page_);
+  auto* grid = new QGridLayout(Page());
   grid->setContentsMargins(PanelMargin, 0, PanelMargin, PanelMargin);
   grid->setHorizontalSpacing(CaptionGap);
   grid->setVerticalSpacing(RowGap);
@@ -90,41 +54,19 @@ void FieldPanel::MakePage(std::span<const PanelField> fields) {
   lines_.reserve(fields.size());
   std::string_view group;
   for (const PanelField& field : fields) {
-    if (field.Group != std::exchange(group, field.Group)) AddHeading(grid, field.Group);
+    if (field.Group != std::exchange(group, field.Group)) {
+      grid->addWidget(MakeHeading(ToQt(field.Group)), grid->rowCount(), CaptionColumn, 1, 2);
+    }
     AddLine(grid, field);
   }
   grid->setRowStretch(grid->rowCount(), 1);
 }
 
-QLayout* FieldPanel::MakeFoot(Button ok, Button cancel) {
-  foot_ = new QHBoxLayout;
-  foot_->setSpacing(FootGap);
-  foot_->addStretch();
-  buttons_ = {{MakeButton(ok, tr("&OK"), tr("OK")), ok.Hint},
-              {MakeButton(cancel, tr("&Cancel"), tr("Cancel")), cancel.Hint}};
+void FieldPanel::MakeFoot(Button ok, Button cancel) {
+  buttons_ = {{AddButton(ok.Name, tr("&OK"), tr("OK"), ok.Hint), ok.Hint},
+              {AddButton(cancel.Name, tr("&Cancel"), tr("Cancel"), cancel.Hint), cancel.Hint}};
   connect(buttons_[0].Pressed, &QPushButton::clicked, this, &FieldPanel::Accepted);
   connect(buttons_[1].Pressed, &QPushButton::clicked, this, &FieldPanel::Cancelled);
-  for (const Foot& button : buttons_) foot_->addWidget(button.Pressed);
-  return foot_;
-}
-
-QPushButton* FieldPanel::MakeButton(Button button, const QString& caption, const QString& spoken) {
-  auto* made = new QPushButton(caption, this);
-  made->setObjectName(button.Name);
-  made->setAccessibleName(spoken);
-  made->setAccessibleDescription(ToQt(NumberedText(button.Hint)));
-  made->installEventFilter(this);
-  return made;
-}
-
-void FieldPanel::AddHeading(QGridLayout* grid, std::string_view text) {
-  auto* heading = new QLabel(ToQt(text), page_);
-  heading->setTextFormat(Qt::PlainText);
-  QFont bold = heading->font();
-  bold.setBold(true);
-  heading->setFont(bold);
-  heading->setContentsMargins(0, HeadingGap, 0, 0);
-  grid->addWidget(heading, grid->rowCount(), CaptionColumn, 1, 2);
 }
 
 void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
@@ -134,29 +76,29 @@ void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
   line.Box->setObjectName(ToQt(field.Control));
   line.Box->setAccessibleName(Spoken(ToQt(field.Caption)));
   line.Box->setAccessibleDescription(ToQt(HintOfBox(field).Status));
-  line.Box->installEventFilter(this);
+  Watch(line.Box);
   if (line.Caption) grid->addWidget(line.Caption, row, CaptionColumn);
   grid->addWidget(line.Box, row, BoxColumn);
   lines_.push_back(line);
 }
 
 QLabel* FieldPanel::MakeCaption(const PanelField& field) {
-  auto* caption = new QLabel(ToQt(field.Caption), page_);
+  auto* caption = new QLabel(ToQt(field.Caption), Page());
   caption->setObjectName(CaptionName(field.Control));
   caption->setTextFormat(Qt::PlainText);
   caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  caption->installEventFilter(this);
+  Watch(caption);
   return caption;
 }
 
 QWidget* FieldPanel::MakeBox(const PanelField& field) {
   if (field.Act == BoxAct::Tick) {
-    auto* box = new QCheckBox(ToQt(field.Caption), page_);
+    auto* box = new QCheckBox(ToQt(field.Caption), Page());
     connect(box, &QCheckBox::clicked, this, &FieldPanel::Ticked);
     return box;
   }
   if (field.Act == BoxAct::Type) {
-    auto* box = new QLineEdit(page_);
+    auto* box = new QLineEdit(Page());
     box->setMaxLength(field.MostCharacters);
     box->setTextMargins(fontMetrics().horizontalAdvance(' '), 0, 0,
                         0);  // as the measures, with a blank ahead
@@ -165,7 +107,7 @@ QWidget* FieldPanel::MakeBox(const PanelField& field) {
     connect(box, &QLineEdit::editingFinished, this, &FieldPanel::TypingEnded);
     return box;
   }
-  auto* box = new MeasureBox(page_);
+  auto* box = new MeasureBox(Page());
   box->SetOpens(OpensSomething(field));
   connect(box, &MeasureBox::Pressed, this, [this, &field] { emit Pressed(field); });
   return box;
@@ -173,13 +115,8 @@ QWidget* FieldPanel::MakeBox(const PanelField& field) {
 
 // ---- showing
 
-int FieldPanel::LeastWidth() const { return LeastPanelWidth(*this); }
-
 void FieldPanel::SetWidth(int panel, int more) {
-  const int bar = fields_->verticalScrollBar()->sizeHint().width();  // shown or not, nothing moves
-  setFixedWidth(panel);
-  page_->setFixedWidth(panel - bar);
-  foot_->setContentsMargins(PanelMargin, FootGap, PanelMargin + bar, FootGap);
+  SetFrameWidth(panel);
   int box = static_cast<int>(BoxShare * LeastWidth());
   for (const Line& line : lines_) {
     if (qobject_cast<QCheckBox*>(line.Box)) box = std::max(box, line.Box->sizeHint().width());
@@ -223,26 +160,8 @@ const FieldPanel::Line* FieldPanel::LineOf(const QObject* control) const {
 }
 
 bool FieldPanel::eventFilter(QObject* watched, QEvent* event) {
-  switch (event->type()) {
-    case QEvent::Enter:
-      TellHover(watched, true);
-      break;
-    case QEvent::Leave:
-      TellHover(watched, false);
-      break;
-    case QEvent::FocusIn:
-      if (!IsTabStep(event)) break;  // a box that moved under the mouse would miss its release
-      TellHover(watched, true);
-      if (const Line* line = LineOf(watched)) fields_->ensureWidgetVisible(line->Box, 0, HeadingGap);
-      break;
-    case QEvent::FocusOut:
-      if (IsTabStep(event)) TellHover(watched, false);
-      break;
-    default:
-      break;
-  }
   if (const Line* line = LineOf(watched); line && line->Caption == watched) PressCaption(*line, event);
-  return QWidget::eventFilter(watched, event);
+  return PanelFrame::eventFilter(watched, event);
 }
 
 void FieldPanel::TellHover(const QObject* control, bool isOver) {

@@ -1,31 +1,25 @@
 #pragma once
 
 #include <QString>
-#include <QWidget>
 #include <span>
 #include <vector>
 
 #include "entry/modFormat.h"
+#include "platform/qt/PanelFrame.h"
 #include "window/modPanelField.h"
 
 class QGridLayout;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
-class QScrollArea;
 
 namespace tarnwick {
 
 /// A panel made of a table of fields: headings, captions, boxes in one column, OK and Cancel at the foot. It
 /// holds no value of its own and tells what is done to it.
-class FieldPanel : public QWidget {
+class FieldPanel : public PanelFrame {
   Q_OBJECT
 
  public:
   ~FieldPanel() override;
 
-  /// Width at the smallest.
-  [[nodiscard]] int LeastWidth() const;
   /// @param panel  the whole width
   /// @param more   what the boxes get of it beyond their least
   void SetWidth(int panel, int more);
@@ -65,20 +59,15 @@ class FieldPanel : public QWidget {
     int Hint;
   };
 
-  void AddHeading(QGridLayout* grid, std::string_view text);
   void AddLine(QGridLayout* grid, const PanelField& field);
   [[nodiscard]] QLabel* MakeCaption(const PanelField& field);
   [[nodiscard]] QWidget* MakeBox(const PanelField& field);
   void MakePage(std::span<const PanelField> fields);
-  [[nodiscard]] QLayout* MakeFoot(Button ok, Button cancel);
-  [[nodiscard]] QPushButton* MakeButton(Button button, const QString& caption, const QString& spoken);
+  void MakeFoot(Button ok, Button cancel);
   [[nodiscard]] const Line* LineOf(const QObject* control) const;
-  void TellHover(const QObject* control, bool isOver);
+  void TellHover(const QObject* control, bool isOver) override;
   void PressCaption(const Line& line, QEvent* event);
 
-  QScrollArea* fields_ = nullptr;
-  QWidget* page_ = nullptr;
-  QHBoxLayout* foot_ = nullptr;
   std::vector<Line> lines_;
   std::vector<Foot> buttons_;
   QLabel* held_ = nullptr;  // the caption that the left button was pressed on
