@@ -104,6 +104,7 @@ void frmAnime::Play() {
 void frmAnime::Appear() {
   if (parentWidget() != place_->window()) setParent(place_->window());
   MoveToTheMiddle();
+  place_->repaint();  // a change of size may not have come to that yet
   place_->setUpdatesEnabled(false);
   shown_ = true;
   show();

@@ -166,8 +166,10 @@ void frmAnimeTest::standsInTheMiddleOfItsPlace() {
 }
 
 void frmAnimeTest::keepsItsPlaceFromRepainting() {
-  place_->Painted = 0;
-  clock_.During = [&](int) { place_->repaint(); };
+  clock_.During = [&](int wait) {
+    if (wait == 1) place_->Painted = 0;
+    place_->repaint();
+  };
   anime_->Play();
   QCOMPARE(place_->Painted, 0);
   anime_->Hide();
@@ -178,7 +180,11 @@ void frmAnimeTest::keepsItsPlaceFromRepainting() {
 void frmAnimeTest::goesWithItsPlace() {
   int before = 0, painted = 0;
   QPoint off;
+  place_->Painted = 0;
+  place_->resize(351, 251);  // and nothing is painted before there is time for it
+  QCOMPARE(place_->Painted, 0);
   clock_.During = [&](int wait) {
+    if (wait == 1) QVERIFY(place_->Painted > 0);
     if (wait == 3) {
       before = place_->Painted;
       place_->resize(301, 201);
