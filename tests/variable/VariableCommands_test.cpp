@@ -316,8 +316,7 @@ TEST_F(VariableControls, KeepTheSettingsAfterADialog) {
   const std::size_t written = SettingsWritten();
   host_.Values = {test::Cancels()};
   commands_.ClickPitch(0);
-  EXPECT_GE(SettingsWritten(), written);
-  EXPECT_FALSE(program_.Store.Saved().empty());
+  EXPECT_GT(SettingsWritten(), written) << "a cancelled one too";
 }
 
 TEST_F(VariableControls, SpeakInTheUnitsOfTheDesign) {
