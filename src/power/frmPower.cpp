@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "platform/qt/FeedIndexList.h"
 #include "platform/qt/MeasureGrid.h"
 #include "platform/qt/QtText.h"
-#include "power/modFeedIndex.h"
 #include "shell/modString.h"
 
 namespace tarnwick {
@@ -21,6 +21,7 @@ namespace {
 
 constexpr int Topic = 400;
 constexpr int ColumnGap = 32;
+constexpr int PercentRoom = 12;              // characters
 constexpr int OkHint = 74, CancelHint = 75;  // numbered texts
 
 bool IsEnter(const QEvent& event) {
@@ -77,15 +78,14 @@ QGroupBox* frmPower::MakeFigures() {
 QGroupBox* frmPower::MakeGulletCapacity() {
   auto* frame = new QGroupBox(tr("Gullet Capacity:"));
   frame->setObjectName("fraGulletCapacity");
-  cboFeedIndex_ = new QComboBox;
-  cboFeedIndex_->setObjectName("cboFeedIndex");
-  cboFeedIndex_->setAccessibleName(tr("Gullet feed index"));
-  for (const std::string& entry : FeedIndexEntries()) cboFeedIndex_->addItem(ToQt(entry));
-  connect(cboFeedIndex_, &QComboBox::activated, this, [this](int entry) {
+  frame->setAccessibleName(tr("Gullet Capacity"));  // else a frame in a frame is called like that
+  cboFeedIndex_ = new FeedIndexList(tr("Gullet feed index"));
+  connect(cboFeedIndex_, &FeedIndexList::activated, this, [this](int entry) {
     editor_.SelectFeedIndex(static_cast<std::size_t>(entry));
     ShowState();
   });
   auto* note = new QLabel(tr("Values based on the selected percent of the total gullet area."));
+  note->setBuddy(cboFeedIndex_);
   note->setObjectName("lblFeedIndex");
   note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);
@@ -110,6 +110,8 @@ QGroupBox* frmPower::MakeEstimates() {
   cboPercent_->setEditable(true);
   cboPercent_->setInsertPolicy(QComboBox::NoInsert);
   cboPercent_->setCompleter(nullptr);  // "1" is not to become "10 Percent"
+  cboPercent_->setMinimumContentsLength(PercentRoom);
+  cboPercent_->lineEdit()->setAccessibleName(tr("Percent to increase the feed rate by"));
   cboPercent_->setCurrentIndex(-1);
   cboPercent_->installEventFilter(this);
   connect(cboPercent_, &QComboBox::editTextChanged, this,
@@ -117,6 +119,7 @@ QGroupBox* frmPower::MakeEstimates() {
   auto* caption = new QLabel(tr("Increase Feed Rate "));
   caption->setObjectName("lblPercent");
   caption->setTextFormat(Qt::PlainText);
+  caption->setBuddy(cboPercent_);
 
   estimates_ = new QHBoxLayout(frame);
   estimates_->setSpacing(Gap);
@@ -130,9 +133,7 @@ QGroupBox* frmPower::MakeEstimates() {
 
 QPushButton* frmPower::MakeEstimateButton(const char* name, const QString& caption,
                                           std::function<void()> command) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
-  button->setAccessibleName(caption);
+  QPushButton* button = MakeButton(name, caption);
   button->setMinimumWidth(button->sizeHint().width() + 2 * Gap);
   connect(button, &QPushButton::clicked, this, [this, command = std::move(command)] {
     command();
@@ -148,26 +149,23 @@ void frmPower::AddPrint(std::function<void()> print) {
 }
 
 QHBoxLayout* frmPower::MakeFoot() {
-  auto* foot = new QHBoxLayout;
-  foot->setSpacing(Gap);
-  foot->addStretch();
-  const auto add = [foot](const char* name, const QString& caption, const QString& spoken, int hint) {
-    auto* button = new QPushButton(caption);
-    button->setObjectName(name);
-    button->setAccessibleName(spoken);
-    button->setAccessibleDescription(ToQt(NumberedText(hint)));
-    button->setToolTip(ToQt(NumberedText(hint)));
-    foot->addWidget(button);
-    return button;
-  };
-  QPushButton* cmdOk = add("cmdOk", tr("&OK"), tr("OK"), OkHint);
+  QPushButton* cmdOk = MakeButton("cmdOk", tr("&OK"));
   cmdOk->setDefault(true);
   connect(cmdOk, &QPushButton::clicked, this, [this] {
     editor_.PressOk();
     accept();
   });
-  QPushButton* cmdCancel = add("cmdCancel", tr("&Cancel"), tr("Cancel"), CancelHint);
+  QPushButton* cmdCancel = MakeButton("cmdCancel", tr("&Cancel"));
   connect(cmdCancel, &QPushButton::clicked, this, &frmPower::reject);
+
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(Gap);
+  foot->addStretch();
+  for (const auto& [button, hint] : {std::pair{cmdOk, OkHint}, std::pair{cmdCancel, CancelHint}}) {
+    button->setAccessibleDescription(ToQt(NumberedText(hint)));
+    button->setToolTip(ToQt(NumberedText(hint)));
+    foot->addWidget(button);
+  }
   return foot;
 }
 
@@ -195,8 +193,7 @@ void frmPower::LeavePercent() {
 
 void frmPower::ShowState() {
   boxes_.ShowTexts([this](PowerBox box) -> const std::string& { return editor_.Text(box); });
-  const std::optional<std::size_t> entry = editor_.FeedIndexEntry();
-  cboFeedIndex_->setCurrentIndex(entry ? static_cast<int>(*entry) : -1);
+  cboFeedIndex_->ShowEntry(editor_.FeedIndexEntry());
   const QString percent = ToQt(editor_.PercentText());
   if (cboPercent_->currentText() != percent) cboPercent_->setEditText(percent);
 }

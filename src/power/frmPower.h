@@ -13,6 +13,8 @@ class QPushButton;
 
 namespace tarnwick {
 
+class FeedIndexList;
+
 /// The window of a PowerEditor.
 class frmPower final : public FormWindow {
  public:
@@ -39,7 +41,7 @@ class frmPower final : public FormWindow {
 
   PowerEditor& editor_;
   PowerBoxes boxes_;
-  QComboBox* cboFeedIndex_ = nullptr;
+  FeedIndexList* cboFeedIndex_ = nullptr;
   QComboBox* cboPercent_ = nullptr;
   QHBoxLayout* estimates_ = nullptr;
   QPushButton* cmdView_ = nullptr;

@@ -1,6 +1,5 @@
 #include "power/frmPowerCalc.h"
 
-#include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -9,9 +8,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "platform/qt/FeedIndexList.h"
 #include "platform/qt/MeasureGrid.h"
 #include "platform/qt/QtText.h"
-#include "power/modFeedIndex.h"
 
 namespace tarnwick {
 namespace {
@@ -64,7 +63,7 @@ QGroupBox* frmPowerCalc::MakeSide(std::size_t side, const QString& caption, cons
       *grid, {HPSawOD, Centers, Length, ToothPitch, NumTeeth, HPPlateThick, HPToothWidth, SideClearance, RPMs,
               SawVelocity, MaxDepth, FeedRate, SpecificEnergy, Bite, HPGulletArea, Capacity, HorsePower});
   QPushButton* cmdClear =
-      MakeButton("cmdClear", tr("Clear "), [this, side] { calculator_.PressClear(side); });
+      AddCommand("cmdClear", tr("Clear "), [this, side] { calculator_.PressClear(side); });
   cmdClear->setObjectName("cmdClear" + Suffix(side));
   cmdClear->setAccessibleName(clear);
 
@@ -84,11 +83,9 @@ QGroupBox* frmPowerCalc::MakeFeedIndex() {
   auto* label = new QLabel(caption);
   label->setObjectName("lblFeedIndex");
   label->setTextFormat(Qt::PlainText);
-  cboFeedIndex_ = new QComboBox;
-  cboFeedIndex_->setObjectName("cboFeedIndex");
-  cboFeedIndex_->setAccessibleName(caption.chopped(1));
-  for (const std::string& entry : FeedIndexEntries()) cboFeedIndex_->addItem(ToQt(entry));
-  connect(cboFeedIndex_, &QComboBox::activated, this, [this](int entry) {
+  cboFeedIndex_ = new FeedIndexList(caption.chopped(1));
+  label->setBuddy(cboFeedIndex_);
+  connect(cboFeedIndex_, &FeedIndexList::activated, this, [this](int entry) {
     calculator_.SelectFeedIndex(static_cast<std::size_t>(entry));
     ShowState();
   });
@@ -106,21 +103,19 @@ QBoxLayout* frmPowerCalc::MakeButtons() {
   buttons_->setSpacing(Gap);
   buttons_->setContentsMargins(0, 0, 0, 2 * FrameGap);  // in line with the list beside them
   buttons_->addStretch();
-  buttons_->addWidget(MakeButton("cmdCopy", tr("&Copy"), [this] { calculator_.PressCopy(); }));
-  buttons_->addWidget(MakeButton("cmdNew", tr("&New"), [this] { calculator_.PressNew(); }));
-  buttons_->addWidget(MakeButton("cmdOpen", tr("&Open"), [this] { calculator_.PressOpen(); }));
-  buttons_->addWidget(MakeButton("cmdSave", tr("&Save"), [this] { calculator_.PressSave(); }));
+  buttons_->addWidget(AddCommand("cmdCopy", tr("&Copy"), [this] { calculator_.PressCopy(); }));
+  buttons_->addWidget(AddCommand("cmdNew", tr("&New"), [this] { calculator_.PressNew(); }));
+  buttons_->addWidget(AddCommand("cmdOpen", tr("&Open"), [this] { calculator_.PressOpen(); }));
+  buttons_->addWidget(AddCommand("cmdSave", tr("&Save"), [this] { calculator_.PressSave(); }));
   buttons_->addSpacing(Margin);
-  buttons_->addWidget(MakeButton("cmdExit", tr("E&xit"), [this] { reject(); }));
+  buttons_->addWidget(AddCommand("cmdExit", tr("E&xit"), [this] { reject(); }));
   return buttons_;
 }
 
 /// Enter presses the button that has the focus, and no other: none of them is what one has come here for.
-QPushButton* frmPowerCalc::MakeButton(const char* name, const QString& caption,
+QPushButton* frmPowerCalc::AddCommand(const char* name, const QString& caption,
                                       std::function<void()> command) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
-  button->setAccessibleName(QString(caption).remove('&').trimmed());
+  QPushButton* button = MakeButton(name, caption);
   button->setAutoDefault(false);
   connect(button, &QPushButton::clicked, this, [this, command = std::move(command)] {
     command();
@@ -130,7 +125,7 @@ QPushButton* frmPowerCalc::MakeButton(const char* name, const QString& caption,
 }
 
 void frmPowerCalc::AddPrint(std::function<void()> print) {
-  QPushButton* cmdPrint = MakeButton("cmdPrint", tr("&Print"), std::move(print));
+  QPushButton* cmdPrint = AddCommand("cmdPrint", tr("&Print"), std::move(print));
   auto* cmdSave = findChild<QPushButton*>("cmdSave");
   buttons_->insertWidget(buttons_->indexOf(cmdSave) + 1, cmdPrint);
   setTabOrder(cmdSave, cmdPrint);
@@ -159,8 +154,7 @@ void frmPowerCalc::ShowState() {
     boxes_[side].ShowTexts(
         [this, side](PowerBox box) -> const std::string& { return calculator_.Text(box, side); });
   }
-  const std::optional<std::size_t> entry = calculator_.FeedIndexEntry();
-  cboFeedIndex_->setCurrentIndex(entry ? static_cast<int>(*entry) : -1);
+  cboFeedIndex_->ShowEntry(calculator_.FeedIndexEntry());
 }
 
 }  // namespace tarnwick

@@ -8,11 +8,12 @@
 #include "power/PowerCalculator.h"
 
 class QBoxLayout;
-class QComboBox;
 class QGroupBox;
 class QPushButton;
 
 namespace tarnwick {
+
+class FeedIndexList;
 
 /// The window of a PowerCalculator.
 class frmPowerCalc final : public FormWindow {
@@ -34,13 +35,13 @@ class frmPowerCalc final : public FormWindow {
   QGroupBox* MakeSide(std::size_t side, const QString& caption, const QString& clear);
   QGroupBox* MakeFeedIndex();
   QBoxLayout* MakeButtons();
-  QPushButton* MakeButton(const char* name, const QString& caption, std::function<void()> command);
+  QPushButton* AddCommand(const char* name, const QString& caption, std::function<void()> command);
 
   void ShowState();
 
   PowerCalculator& calculator_;
   std::array<PowerBoxes, Sides> boxes_;
-  QComboBox* cboFeedIndex_ = nullptr;
+  FeedIndexList* cboFeedIndex_ = nullptr;
   QBoxLayout* buttons_ = nullptr;
 };
 

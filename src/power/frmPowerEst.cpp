@@ -143,9 +143,7 @@ void frmPowerEst::DisplayPowerSets() {
 }
 
 QHBoxLayout* frmPowerEst::MakeFoot() {
-  cmdOk_ = new QPushButton(tr("&OK"));
-  cmdOk_->setObjectName("cmdOk");
-  cmdOk_->setAccessibleName(tr("OK"));
+  cmdOk_ = MakeButton("cmdOk", tr("&OK"));
   cmdOk_->setDefault(true);
   connect(cmdOk_, &QPushButton::clicked, this, &frmPowerEst::accept);
   foot_ = new QHBoxLayout;
@@ -156,9 +154,7 @@ QHBoxLayout* frmPowerEst::MakeFoot() {
 }
 
 void frmPowerEst::AddPrint(std::function<void()> print) {
-  auto* cmdPrint = new QPushButton(tr("&Print"));
-  cmdPrint->setObjectName("cmdPrint");
-  cmdPrint->setAccessibleName(tr("Print"));
+  QPushButton* cmdPrint = MakeButton("cmdPrint", tr("&Print"));
   connect(cmdPrint, &QPushButton::clicked, this, std::move(print));
   foot_->insertWidget(foot_->indexOf(cmdOk_), cmdPrint);
   setTabOrder(picPowerEst_, cmdPrint);

@@ -580,6 +580,8 @@ void frmPowerTest::namesEveryControl() {
   Open();
   QCOMPARE(test::BadlySpoken(*window_, Boxes + Others + QStringList("cboFeedIndex")), QStringList());
   QCOMPARE(Find<QWidget>("txtCapacity")->accessibleName(), QString("Gullet Capacity, Required"));
+  QCOMPARE(Find<QLabel>("lblPercent")->buddy(), Find<QWidget>("cboPercent"));  // a list goes by its caption
+  QCOMPARE(Find<QLabel>("lblFeedIndex")->buddy(), Find<QWidget>("cboFeedIndex"));
 }
 
 void frmPowerTest::tabsInReadingOrder() {

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QKeySequence>
 #include <QLayout>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -82,6 +83,13 @@ void FormWindow::Arrange(QLayout* boxes, QLayout* foot) {
   column->addWidget(area_, 1);
   column->addLayout(foot);
   for (QComboBox* list : findChildren<QComboBox*>()) new WheelPassedOn(list);
+}
+
+QPushButton* FormWindow::MakeButton(const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  button->setAccessibleName(QString(caption).remove('&').trimmed());
+  return button;
 }
 
 /// Lays the rows that are too wide out anew. What is not seen yet does not ask for its new size by itself,
