@@ -31,6 +31,7 @@
 namespace tarnwick {
 namespace {
 
+constexpr int Topic = 600;  // of the manual
 constexpr int Margin = 12;
 constexpr int Gap = 8;            // between neighbours
 constexpr int NumberRoom = 10;    // figures in a box for a number
@@ -99,7 +100,7 @@ frmCfg::frmCfg(OptionsDialog& dialog, ColorDialog& colours, HelpViewer& help, QW
   column->addLayout(MakeButtons());
 
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
-          [this] { help_.ShowContents(); });
+          [this] { help_.ShowTopic(Topic); });
   connect(qApp, &QApplication::focusChanged, this, &frmCfg::LeaveBoxes);
   ShowState();
   SSTab1_->setFocus();

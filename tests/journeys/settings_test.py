@@ -160,7 +160,7 @@ class Settings(Journey):
         self.screen.mouse("windowactivate", "--sync", options)
         self.screen.keys("Tab", "Right", "alt+o")
         until(lambda: "Options" not in self.titles(), "the options gone")
-        until(self.store.exists, "the settings saved")
+        until(lambda: self.store.exists() and self.stored()["MainImpMetric"].strip() == "1", "the settings saved")
 
     def windows(self):
         found = self.screen.output("xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$", check=False).split()

@@ -801,7 +801,7 @@ void frmCfgTest::opensTheManual() {
   Open();
   Type("txtDecimalPlaces", "9");
   QTest::keyClick(window_->focusWidget(), Qt::Key_F1);
-  QCOMPARE(help_.Asked, std::vector<std::string>{"contents"});
+  QCOMPARE(help_.Asked, std::vector<std::string>{"topic 600"});
   QVERIFY(window_->isVisible());
 }
 
