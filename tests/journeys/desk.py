@@ -26,12 +26,17 @@ FILE_SIZE = 3375
 HOOK_AT = 192  # in a band saw file
 
 
+def content_of(path):
+    """The bytes of a file; none when there is no such file, or not any more."""
+    try:
+        return path.read_bytes()
+    except FileNotFoundError:
+        return b""
+
+
 def hook(path):
     """The hook angle in a whole band saw file, read by its place; None when there is no such file, or not all of it."""
-    try:
-        content = path.read_bytes()
-    except FileNotFoundError:
-        return None
+    content = content_of(path)
     whole = len(content) == FILE_SIZE and content.startswith(b"Band Saw File: Version = 1.01 ")
     return struct.unpack_from("<d", content, HOOK_AT)[0] if whole else None
 
@@ -102,7 +107,7 @@ class Desk(unittest.TestCase):
     def kept(self):
         """The hook angles of the designs that are kept for the day after a crash."""
         return sorted(struct.unpack_from("<d", content, content.index(b"Band Saw File:") + HOOK_AT)[0]
-                      for content in (path.read_bytes() for path in self.copies.glob("*.copy")))
+                      for content in map(content_of, self.copies.glob("*.copy")) if content)
 
     # ---- the program
 
