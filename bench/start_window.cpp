@@ -11,14 +11,11 @@
 #include "platform/qt/DocumentsFolder.h"
 #include "platform/qt/DrawingSurface.h"
 #include "platform/qt/QtApplication.h"
-#include "platform/qt/QtClock.h"
-#include "platform/qt/QtColorDialog.h"
-#include "platform/qt/QtDialogHost.h"
-#include "platform/qt/QtHelpViewer.h"
-#include "platform/qt/QtMessages.h"
+#include "platform/qt/QtHosts.h"
+#include "platform/qt/QtSurroundings.h"
 #include "shell/CommandLine.h"
 #include "shell/Program.h"
-#include "store/modUserStore.h"
+#include "store/modUserFolders.h"
 #include "window/frmMain.h"
 
 namespace {
@@ -44,16 +41,11 @@ int RunMain(int argc, char** argv) {
   int ownName = 1;
   QApplication application(ownName, argv);
   tarnwick::SetUpApplication(application);
-  tarnwick::QtMessages messages;
-  tarnwick::QtClock clock;
-  const std::string design = tarnwick::CommandFile(argc - 1, argv + 1);
-  tarnwick::QtColorDialog colors;
-  tarnwick::QtHelpViewer help;
-  const auto store = tarnwick::UserSettingsStore();
-  tarnwick::Program program({messages, clock, *store, colors, help});
-  program.Start(tarnwick::DocumentsFolder(), design);
-  tarnwick::QtDialogHost dialogs(help);
-  tarnwick::frmMain window(program, dialogs);
+  tarnwick::QtSurroundings surroundings;
+  tarnwick::Program program(surroundings.All(), tarnwick::UserStateFolder());
+  program.Start(tarnwick::DocumentsFolder(), tarnwick::CommandFile(argc - 1, argv + 1));
+  tarnwick::QtHosts hosts(surroundings.Help);
+  tarnwick::frmMain window(program, hosts.All());
   const auto* surface = window.findChild<tarnwick::DrawingSurface*>("PicEditor");
   QObject::connect(surface, &tarnwick::DrawingSurface::Painted, &window, [&] {
     if (design.empty() || !window.windowTitle().startsWith("untitled")) std::_Exit(EXIT_SUCCESS);

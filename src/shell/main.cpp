@@ -1,21 +1,14 @@
 #include <QApplication>
 #include <cstdlib>
 #include <exception>
-#include <memory>
 
 #include "platform/qt/DocumentsFolder.h"
 #include "platform/qt/QtApplication.h"
-#include "platform/qt/QtClock.h"
-#include "platform/qt/QtColorDialog.h"
-#include "platform/qt/QtDialogHost.h"
-#include "platform/qt/QtFileDialogs.h"
-#include "platform/qt/QtHelpViewer.h"
-#include "platform/qt/QtMessages.h"
-#include "platform/qt/QtTrash.h"
+#include "platform/qt/QtHosts.h"
+#include "platform/qt/QtSurroundings.h"
 #include "shell/CommandLine.h"
 #include "shell/Program.h"
 #include "store/modUserFolders.h"
-#include "store/modUserStore.h"
 #include "window/frmMain.h"
 
 namespace {
@@ -24,20 +17,12 @@ int Run(int argc, char** argv) {
   int ownName = 1;  // the command line is one path; the toolkit finds no options of its own in it
   QApplication application(ownName, argv);
   tarnwick::SetUpApplication(application);
-  tarnwick::QtMessages messages;
-  tarnwick::QtClock clock;
-  tarnwick::QtColorDialog colors;
-  tarnwick::QtHelpViewer help;
-  tarnwick::QtFileDialogs files;
-  tarnwick::QtTrash trash;
-  const std::unique_ptr<tarnwick::SettingsStore> store = tarnwick::UserSettingsStore();
-
-  tarnwick::Program program({messages, clock, *store, colors, help, files, trash},
-                            tarnwick::UserStateFolder());
+  tarnwick::QtSurroundings surroundings;
+  tarnwick::Program program(surroundings.All(), tarnwick::UserStateFolder());
   program.Start(tarnwick::DocumentsFolder(), tarnwick::CommandFile(argc, argv));
-  tarnwick::QtDialogHost dialogs(help);
-  tarnwick::frmMain window(program, dialogs);
-  Pause(clock);
+  tarnwick::QtHosts hosts(surroundings.Help);
+  tarnwick::frmMain window(program, hosts.All());
+  Pause(surroundings.Time);
   window.show();
   return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "variable/modVariable.h"
+#include "window/KeptChanges.h"
 
 namespace tarnwick {
 namespace {
@@ -42,36 +43,13 @@ void VariableCommands::Recalculate() {
 
 /// The state that the last editor accepted, with its units.
 void VariableCommands::Restore() {
-  OpenDesign& design = program_.Design;
-  design.Saw = design.SawEdit;
-  design.ImpMetric = design.Saw.ImpMetric;
-  view_.ShowUnits();
+  RestoreAccepted(program_.Design, view_);
   Recalculate();
 }
 
 // ---- opening
 
 void VariableCommands::Tell(std::string text) { program_.Out.Say.Show({.Text = std::move(text)}); }
-
-/// False: the user wants to stay.
-bool VariableCommands::KeepsOrRestores() {
-  const OpenDesign& design = program_.Design;
-  if (SameSaw(design.Saw, design.SawEdit)) return true;
-  switch (program_.Out.Say.Show(ChangedQuestion())) {
-    case Button::Yes:
-      return true;
-    case Button::No:
-      Restore();
-      if (view_.CurrentPanel() == Panel::Variable) editor_.FillFromRecord();
-      view_.FillBoxes();
-      view_.ShowSawInfo();
-      return true;
-    case Button::Ok:
-    case Button::Cancel:
-      break;
-  }
-  return false;
-}
 
 bool VariableCommands::CanBeVariable() {
   const BandSaw& saw = program_.Design.Saw;
@@ -95,11 +73,21 @@ void VariableCommands::OpenVariable() {
         {.Title = "Variable Pitch", .Text = "Bandsaw must have teeth before adjusting pitch!"});
     return;
   }
-  if (!KeepsOrRestores() || view_.CurrentPanel() == Panel::Variable || !CanBeVariable()) return;
+  const BandSaw shown = design.Saw;
+  if (!KeepsOrRestores(program_, view_, ChangedQuestion())) return;
+  if (view_.CurrentPanel() == Panel::Variable) {
+    if (!SameSaw(shown, design.Saw)) Fill();  // back at the last OK, and so is the panel
+    return;
+  }
+  if (!CanBeVariable()) return;
   design.SawEdit = design.Saw;
+  Fill();
+  view_.ShowPanel(Panel::Variable);
+}
+
+void VariableCommands::Fill() {
   editor_.FillFromRecord();
   view_.FillBoxes();
-  view_.ShowPanel(Panel::Variable);
 }
 
 // ---- leaving
@@ -158,9 +146,10 @@ void VariableCommands::ResetVariable() {
   view_.FillBoxes();
 }
 
-void VariableCommands::FollowCalculation() {
-  const std::int16_t style = program_.Design.Saw.ToothStyle;
-  if ((style == NarrowStyle || style == OShape) && editor_.IsFilled) ResetVariable();
+void VariableCommands::FollowDesign() {
+  const BandSaw& saw = program_.Design.Saw;
+  const bool never = saw.ToothStyle == NarrowStyle || saw.ToothStyle == OShape;
+  if (editor_.IsFilled && (never || saw.ContainsInfo.Teeth == False)) ResetVariable();
 }
 
 }  // namespace tarnwick

@@ -32,18 +32,18 @@ class VariableCommands {
   /// The panel emptied, for a start and for another design.
   void ResetVariable();
 
-  /// To be told after each calculation: for Narrow and O teeth, which are never variable, the panel is
-  /// emptied as the record has been.
-  void FollowCalculation();
+  /// To be told of every other state of the design: without teeth, and with Narrow and O teeth, which are
+  /// never variable, the panel is emptied as the record has been.
+  void FollowDesign();
 
   /// What the panel shows.
   [[nodiscard]] const VariableValues& Values() const { return editor_; }
 
  private:
   [[nodiscard]] Questions Asking() const;
-  [[nodiscard]] bool KeepsOrRestores();
   [[nodiscard]] bool CanBeVariable();
   void Tell(std::string text);
+  void Fill();
   void Restore();
   void Recalculate();
 

@@ -22,6 +22,7 @@
 #include "window/fraGeneral.h"
 #include "window/fraMain.h"
 #include "window/fraToothShape.h"
+#include "window/fraVariable.h"
 
 namespace tarnwick {
 namespace {
@@ -33,11 +34,13 @@ QSize ToQt(const WindowSize& size) { return {size.Width, size.Height}; }
 
 }  // namespace
 
-frmMain::frmMain(Program& program, DialogHost& dialogs)
+frmMain::frmMain(Program& program, const WindowHosts& hosts)
     : program_(program),
       design_(program.Design),
-      editors_(program, dialogs, *this),
-      documents_({program, dialogs, *this, *this}),
+      hosts_(hosts),
+      editors_(program, hosts.Dialogs, *this),
+      variable_(program, hosts.Dialogs, *this),
+      documents_({program, hosts.Dialogs, *this, *this}),
       commands_(program.Out.Say) {
   setObjectName("frmMain");
   MakeCentre();
@@ -90,8 +93,9 @@ QWidget* frmMain::MakePanels() {
   fraMain_ = new fraMain(panels_);
   fraToothShape_ = new fraToothShape(panels_);
   fraGeneral_ = new fraGeneral(panels_);
+  fraVariable_ = new fraVariable(panels_);
   for (QWidget* panel : {static_cast<QWidget*>(fraMain_), static_cast<QWidget*>(fraToothShape_),
-                         static_cast<QWidget*>(fraGeneral_)}) {
+                         static_cast<QWidget*>(fraGeneral_), static_cast<QWidget*>(fraVariable_)}) {
     panels_->addWidget(panel);
   }
   column->addWidget(panels_, 1);
@@ -192,6 +196,28 @@ void frmMain::BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors
   connect(&panel, &FieldPanel::ButtonHovered, this, [this](int text) { ShowStatus(NumberedText(text), ""); });
 }
 
+/// Ticks, options and the list turn by themselves, whatever comes of the command.
+void frmMain::BindVariable() {
+  const auto bind = [this](auto signal, const char* control, auto command) {
+    connect(fraVariable_, signal, this, [this, control, command](auto... what) {
+      Run(control, [&] { (variable_.*command)(what...); });
+      FillBoxes();
+    });
+  };
+  bind(&fraVariable::EntryChosen, "cboPattern", &VariableCommands::ChooseEntry);
+  bind(&fraVariable::PatternClicked, "optPattern", &VariableCommands::ClickPattern);
+  bind(&fraVariable::VarDepthTicked, "chkVarDepth", &VariableCommands::TickVarDepth);
+  bind(&fraVariable::PitchPressed, "txtToothSpace", &VariableCommands::ClickPitch);
+  bind(&fraVariable::DepthPressed, "txtToothDepth", &VariableCommands::ClickDepth);
+  bind(&fraVariable::ResetPressed, "cmdVariableReset", &VariableCommands::PressVariableReset);
+  bind(&fraVariable::Accepted, "cmdVariableOK", &VariableCommands::PressVariableOk);
+  bind(&fraVariable::Cancelled, "cmdVariableCancel", &VariableCommands::PressVariableCancel);
+  connect(fraVariable_, &fraVariable::Hovered, this, [this](const QString& hint, int topic) {
+    helpTopic_ = topic;
+    ShowStatus(hint.toStdString(), "");
+  });
+}
+
 void frmMain::BindPanels() {
   connect(display_, &fraDisplay::ViewChanged, this, [this] { ShowView(false); });
   connect(display_, &fraDisplay::Painted, this, &frmMain::BeginSoon);
@@ -203,6 +229,7 @@ void frmMain::BindPanels() {
           [this] { Run("cmdQuickClick", [this] { TurnQuickClickOn(); }); });
   BindEditor(*fraToothShape_, &Editors::PressToothOk, &Editors::PressToothCancel);
   BindEditor(*fraGeneral_, &Editors::PressGeneralOk, &Editors::PressGeneralCancel);
+  BindVariable();
 }
 
 // ---- starting

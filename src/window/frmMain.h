@@ -8,7 +8,9 @@
 #include "shell/DocumentCommands.h"
 #include "shell/OneCommand.h"
 #include "shell/Program.h"
+#include "variable/VariableCommands.h"
 #include "window/Editors.h"
+#include "window/WindowHosts.h"
 
 class QAction;
 class QGridLayout;
@@ -21,11 +23,14 @@ class QStackedWidget;
 
 namespace tarnwick {
 
+struct MachineDesk;
+struct PowerDesk;
 class fraDisplay;
 class fraGeneral;
 class fraMain;
 class FieldPanel;
 class fraToothShape;
+class fraVariable;
 class frmAnime;
 class ToolBar;
 
@@ -33,8 +38,8 @@ class ToolBar;
 /// what.
 class frmMain final : public QMainWindow, private MainView, private DocumentView {
  public:
-  /// @param program  started; it outlives the window, as `dialogs` does
-  frmMain(Program& program, DialogHost& dialogs);
+  /// @param program  started; it outlives the window, as what `hosts` names does
+  frmMain(Program& program, const WindowHosts& hosts);
   ~frmMain() override;
 
  protected:
@@ -54,12 +59,14 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
   QLineEdit* AddPanel(const char* name, const char* caption, const char* widest);
   void BindPanels();
   void BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors::*cancel)());
+  void BindVariable();
 
   // One function for each menu, in the order of its items.
   void MakeMenu();
   void MakeFileMenu();
   void MakeViewMenu();
   void MakeDesignMenu();
+  void MakeTablesMenu();
   void MakeToolsMenu();
   void MakeHelpMenu();
   void MakeToolBar();
@@ -108,6 +115,8 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
   void End();
 
   // ---- showing
+  [[nodiscard]] PowerDesk ForPower();
+  [[nodiscard]] MachineDesk ForMachine();
   void ShowOptions();
   void TakeUnits(std::int16_t impMetric);
   void TurnQuickClickOn();
@@ -122,7 +131,9 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
 
   Program& program_;
   OpenDesign& design_;  // the program's
+  WindowHosts hosts_;
   Editors editors_;
+  VariableCommands variable_;
   DocumentCommands documents_;
   OneCommand commands_;
   bool begun_ = false;
@@ -135,6 +146,7 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
   QWidget* panelColumn_ = nullptr;
   fraMain* fraMain_ = nullptr;
   fraToothShape* fraToothShape_ = nullptr;
+  fraVariable* fraVariable_ = nullptr;
   fraGeneral* fraGeneral_ = nullptr;
   QRadioButton* optImperial_ = nullptr;
   QRadioButton* optMetric_ = nullptr;

@@ -6,8 +6,10 @@
 #include <QMenuBar>
 #include <utility>
 
+#include "machine/MachineCommands.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ToolBar.h"
+#include "power/PowerCommands.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSplash.h"
 #include "shell/modString.h"
@@ -73,6 +75,7 @@ void frmMain::MakeMenu() {
   MakeFileMenu();
   MakeViewMenu();
   MakeDesignMenu();
+  MakeTablesMenu();
   MakeToolsMenu();
   MakeHelpMenu();
   MakeToolBar();
@@ -141,10 +144,24 @@ void frmMain::MakeDesignMenu() {
   AddItem(design, "mnuItemMain", "Main Screen", "", [this] { editors_.OpenMain(); });
   AddItem(design, "mnuItemGeneral", "General Information", "", [this] { editors_.OpenGeneral(); });
   AddItem(design, "mnuItemToothShape", "Tooth Shape Editor", "", [this] { editors_.OpenToothShape(); });
+  AddItem(design, "mnuItemVariable", "Variable Pitch", "", [this] { variable_.OpenVariable(); });
+  AddItem(design, "mnuItemPower", "Power Requirements", "", [this] { OpenPowerEditor(ForPower()); });
+}
+
+PowerDesk frmMain::ForPower() { return {program_, hosts_.Dialogs, hosts_.Power, *this}; }
+
+MachineDesk frmMain::ForMachine() { return {program_, hosts_.Dialogs, hosts_.Machine, *this}; }
+
+void frmMain::MakeTablesMenu() {
+  QMenu* tables = AddMenu("mnuTables", "Ta&bles");
+  AddItem(tables, "mnuItemPlateGauge", "Plate Gauge", "", [this] { OpenPlateGauges(ForMachine()); });
 }
 
 void frmMain::MakeToolsMenu() {
   QMenu* tools = AddMenu("mnuTools", "&Tools");
+  AddItem(tools, "mnuItemBandLength", "Band Length Calculator", "",
+          [this] { OpenBandCalculator(ForMachine()); });
+  AddItem(tools, "mnuItemPowerCalc", "Power Calculator", "", [this] { OpenPowerCalculator(ForPower()); });
   QAction* calculator = AddItem(tools, "mnuItemCalculator", "Calculator", "", [] {});  // never shown
   calculator->setVisible(false);
   calculator->setEnabled(false);

@@ -14,10 +14,12 @@
 #include "shell/modString.h"
 #include "shell/modTimeDate.h"
 #include "shell/modWindowSize.h"
+#include "variable/modSegmentHint.h"
 #include "window/fraDisplay.h"
 #include "window/fraGeneral.h"
 #include "window/fraMain.h"
 #include "window/fraToothShape.h"
+#include "window/fraVariable.h"
 #include "window/frmMain.h"
 #include "window/modSelect.h"
 
@@ -41,6 +43,7 @@ void frmMain::ShowPanel(Panel panel) {
     case Panel::General:
       return show(fraGeneral_);
     case Panel::Variable:
+      return show(fraVariable_);
     case Panel::None:
       break;
   }
@@ -50,19 +53,25 @@ Panel frmMain::CurrentPanel() const {
   const QWidget* frame = panels_->currentWidget();
   if (panels_->isHidden()) return Panel::None;
   if (frame == fraToothShape_) return Panel::ToothShape;
+  if (frame == fraVariable_) return Panel::Variable;
   return frame == fraGeneral_ ? Panel::General : Panel::Main;
 }
 
 void frmMain::ShowSawInfo() { fraMain_->ShowSawInfo(design_.Saw, design_.Format()); }
 
 void frmMain::FillBoxes() {
+  variable_.FollowDesign();
   fraToothShape_->Fill(design_.Saw, design_.Format());
   fraGeneral_->Fill(design_.Saw, design_.Format());
+  fraVariable_->Show(variable_.Values(), design_.Format());
 }
 
 void frmMain::ShowUnits() { (design_.ImpMetric == Metric ? optMetric_ : optImperial_)->setChecked(true); }
 
-void frmMain::DrawSaw() { ShowView(true); }
+void frmMain::DrawSaw() {
+  variable_.FollowDesign();
+  ShowView(true);
+}
 
 /// Only what differs is written: the mouse moves often, and the line would flicker.
 void frmMain::ShowStatus(std::string_view status, std::string_view hint) {
@@ -94,7 +103,8 @@ int frmMain::HelpTopic() const {
       if (field.Control == focus) return HelpTopicOf(field.Act, field.Asked);
     }
   }
-  return helpTopic_;
+  const int topic = SegmentTopic(focus);
+  return topic != 0 ? topic : helpTopic_;
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
@@ -130,6 +140,7 @@ void frmMain::Arrange() {
   fraMain_->SetWidth(panel, values);
   fraToothShape_->SetWidth(panel, values);
   fraGeneral_->SetWidth(panel, values);
+  fraVariable_->SetWidth(panel, values);
   hintRow_->setColumnMinimumWidth(0, minimumWidth() / 2 + qRound(shares.Status));  // or a longer text's
 }
 

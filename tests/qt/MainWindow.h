@@ -18,7 +18,7 @@
 #include "dxf/modDXF.h"
 #include "geometry/modTooth.h"
 #include "platform/qt/DrawingSurface.h"
-#include "platform/qt/QtDialogHost.h"
+#include "platform/qt/QtHosts.h"
 #include "platform/qt/QtText.h"
 #include "qt/Controls.h"
 #include "store/modSave.h"
@@ -172,7 +172,7 @@ class MainWindow {
   /// Starts the program as a desktop does, on a file or on none.
   void OpenFile(const std::string& path) {
     Program.Start(path);
-    Window = std::make_unique<frmMain>(Program.Process, Dialogs);
+    Window = std::make_unique<frmMain>(Program.Process, Hosts.All());
     Window->show();
     if (!QTest::qWaitForWindowActive(Window.get())) qFatal("the window does not come up");
     QTest::qWait(5);  // the design is opened when the window is there
@@ -186,10 +186,10 @@ class MainWindow {
   QString TextOf(const char* box) { return Named<QLineEdit>(*Window, box)->text(); }
   QImage Picture() { return Named<DrawingSurface>(*Window, "PicEditor")->grab().toImage(); }
 
-  /// The panel that shows: "fraMain", "fraToothShape", "fraGeneral".
+  /// The panel that shows: "fraMain", "fraToothShape", "fraVariable", "fraGeneral".
   QString Panel() {
     QStringList shown;
-    for (const char* panel : {"fraMain", "fraToothShape", "fraGeneral"}) {
+    for (const char* panel : {"fraMain", "fraToothShape", "fraVariable", "fraGeneral"}) {
       if (Named<QWidget>(*Window, panel)->isVisible()) shown += panel;
     }
     return shown.join(' ');
@@ -237,7 +237,7 @@ class MainWindow {
 
   TemporaryFolder Folder;
   TestProgram Program;
-  QtDialogHost Dialogs{Program.Help};
+  QtHosts Hosts{Program.Help};
   std::unique_ptr<frmMain> Window;
   DialogUser User;
 };

@@ -15,7 +15,7 @@
 #include <optional>
 
 #include "platform/qt/DrawingSurface.h"
-#include "platform/qt/QtDialogHost.h"
+#include "platform/qt/QtHosts.h"
 #include "qt/Pixels.h"
 #include "store/modSave.h"
 #include "support/Designs.h"
@@ -84,7 +84,7 @@ class frmMainTest : public QObject {
   std::unique_ptr<test::TemporaryFolder> folder_;
   std::string head_;  // path of a plain design
   std::unique_ptr<test::TestProgram> program_;
-  std::unique_ptr<QtDialogHost> dialogs_;
+  std::unique_ptr<QtHosts> hosts_;
   std::unique_ptr<frmMain> window_;
   DrawingSurface* PicEditor_ = nullptr;
   QScrollBar* hscDisplay_ = nullptr;
@@ -96,12 +96,12 @@ void frmMainTest::init() {
   folder_ = std::make_unique<test::TemporaryFolder>();
   head_ = Stored("head.bsw", PlainDesign());
   program_ = std::make_unique<test::TestProgram>();
-  dialogs_ = std::make_unique<QtDialogHost>(program_->Help);
+  hosts_ = std::make_unique<QtHosts>(program_->Help);
 }
 
 void frmMainTest::Open(const std::string& path) {
   program_->Start(path);
-  window_ = std::make_unique<frmMain>(program_->Process, *dialogs_);
+  window_ = std::make_unique<frmMain>(program_->Process, hosts_->All());
   PicEditor_ = window_->findChild<DrawingSurface*>("PicEditor");
   hscDisplay_ = window_->findChild<QScrollBar*>("hscDisplay");
   vscDisplay_ = window_->findChild<QScrollBar*>("vscDisplay");
@@ -154,7 +154,7 @@ void frmMainTest::opensTheNamedDesignOnce() {
 
 void frmMainTest::opensItWithoutBeingActivated() {
   program_->Start(head_);
-  window_ = std::make_unique<frmMain>(program_->Process, *dialogs_);
+  window_ = std::make_unique<frmMain>(program_->Process, hosts_->All());
   window_->setAttribute(Qt::WA_ShowWithoutActivating);
   window_->show();
   QTRY_COMPARE(window_->windowTitle(), QString("head.bsw - Tarnwick"));

@@ -17,7 +17,7 @@
 #include "model/modDecim.h"
 #include "platform/qt/ColourSwatch.h"
 #include "platform/qt/DrawingSurface.h"
-#include "platform/qt/QtDialogHost.h"
+#include "platform/qt/QtHosts.h"
 #include "qt/Controls.h"
 #include "qt/Pixels.h"
 #include "store/modSave.h"
@@ -104,7 +104,7 @@ class mainOptionsTest : public QObject {
   QColor Corner() { return Picture().pixelColor(PicEditor_->width() - 3, 3); }
 
   std::unique_ptr<test::TestProgram> program_;
-  std::unique_ptr<QtDialogHost> dialogs_;
+  std::unique_ptr<QtHosts> hosts_;
   std::unique_ptr<frmMain> window_;
   DrawingSurface* PicEditor_ = nullptr;
   bool seen_ = false;  // the options window
@@ -112,7 +112,7 @@ class mainOptionsTest : public QObject {
 
 void mainOptionsTest::init() {
   program_ = std::make_unique<test::TestProgram>();
-  dialogs_ = std::make_unique<QtDialogHost>(program_->Help);
+  hosts_ = std::make_unique<QtHosts>(program_->Help);
   program_->Start(program_->Documents.File("head.bsw", BandSawText(ManyTeeth())).string());
   Open();
 }
@@ -124,7 +124,7 @@ void mainOptionsTest::cleanup() {
 
 void mainOptionsTest::Open() {
   seen_ = false;
-  window_ = std::make_unique<frmMain>(program_->Process, *dialogs_);
+  window_ = std::make_unique<frmMain>(program_->Process, hosts_->All());
   PicEditor_ = Named<DrawingSurface>(*window_, "PicEditor");
   window_->show();
   QTRY_COMPARE(window_->windowTitle(), QString("head.bsw - Tarnwick"));

@@ -347,14 +347,14 @@ TEST_F(VariableEmptying, FollowsTheStylesThatAreNeverVariable) {
     design_.Saw.ToothStyle = style;
     design_.Recalculate(program_.Say);
     ASSERT_EQ(design_.Saw.GeneralInfo.VariablePitch, False);
-    commands_.FollowCalculation();
+    commands_.FollowDesign();
     EXPECT_FALSE(commands_.Values().IsFilled);
   }
 }
 
 TEST_F(VariableEmptying, DoesNotFollowOtherStyles) {
   OpenPanel();
-  commands_.FollowCalculation();
+  commands_.FollowDesign();
   EXPECT_TRUE(commands_.Values().IsFilled);
   EXPECT_EQ(view_.Log(), Told{});
 }
