@@ -3,12 +3,13 @@
 
     validate_dxf.py --cli TARNWICK_CLI --reader DXFLIB_READER --out-dir DIR DESIGN...
 
-Each design is written as DXF by the tool. Three readers must then agree with the entities that the tool
-itself prints: ezdxf (audit without findings, every number alike), GDAL (number of features) and dxflib
+Each design is written as DXF by the tool, its band and the machine that it runs on. Three readers must then
+agree with the entities that the tool itself prints: ezdxf (audit without findings, every number alike), GDAL (number of features) and dxflib
 (number of each kind). Exit code 1 when one does not.
 """
 
 import argparse
+import itertools
 import json
 import math
 import re
@@ -26,9 +27,13 @@ def output_of(*command):
     return subprocess.run([str(part) for part in command], check=True, capture_output=True, text=True).stdout
 
 
-def entities_of(cli, design):
+# What is drawn: the command that prints its entities, the one that writes it.
+DRAWINGS = {"band": ("json", "dxf"), "machine": ("machine", "machine")}
+
+
+def entities_of(cli, command, design):
     """What the tool itself says that it drew; the list's empty places are left out."""
-    line = json.loads(output_of(cli, "json", "--defaults", "--entities", design))
+    line = json.loads(output_of(cli, command, "--defaults", "--entities", design))
     return [entity for entity in line["entities"] if entity["Kind"].strip() in KINDS]
 
 
@@ -82,11 +87,12 @@ def check_with_dxflib(reader, drawing, entities):
         yield f"dxflib: {seen}, expected {expected}"
 
 
-def check(cli, reader, folder, design):
-    """All that is wrong with the drawing of one design, and its number of entities."""
-    entities = entities_of(cli, design)
-    drawing = folder / (design.stem + ".dxf")
-    output_of(cli, "dxf", "--defaults", design, "-o", drawing)
+def check(cli, reader, folder, design, what):
+    """All that is wrong with one drawing of a design, and its number of entities."""
+    printing, writing = DRAWINGS[what]
+    entities = entities_of(cli, printing, design)
+    drawing = folder / f"{design.stem}-{what}.dxf"
+    output_of(cli, writing, "--defaults", design, "-o", drawing)
     wrong = [] if entities else ["nothing is drawn"]
     wrong += check_with_ezdxf(drawing, entities)
     wrong += check_with_gdal(drawing, entities)
@@ -103,17 +109,17 @@ def main():
     options = parser.parse_args()
 
     failed = False
-    for design in options.designs:
+    for design, what in itertools.product(options.designs, DRAWINGS):
         try:
-            wrong, count = check(options.cli, options.reader, options.out_dir, design)
+            wrong, count = check(options.cli, options.reader, options.out_dir, design, what)
         except subprocess.CalledProcessError as error:
             wrong, count = [f"{' '.join(error.cmd)}: {error.stderr.strip()}"], 0
         except (ezdxf.DXFError, OSError) as error:
             wrong, count = [f"ezdxf: {error}"], 0
         for finding in wrong[:10]:
-            print(f"{design}: {finding}")
+            print(f"{design}: {what}: {finding}")
         if not wrong:
-            print(f"{design}: {count} entities, read alike by ezdxf, GDAL and dxflib")
+            print(f"{design}: {what}: {count} entities, read alike by ezdxf, GDAL and dxflib")
         failed |= bool(wrong)
     return 1 if failed else 0
 

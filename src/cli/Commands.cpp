@@ -8,6 +8,7 @@
 #include "cli/Evaluation.h"
 #include "cli/JsonText.h"
 #include "cli/JsonWriter.h"
+#include "cli/Machine.h"
 #include "cli/Output.h"
 #include "cli/Streams.h"
 #include "dxf/modDXF.h"
@@ -25,10 +26,6 @@ Scope ScopeOf(const Options& options) { return options.Segment ? Scope::Segment 
 /// Messages of reading and calculating that have no place in the output; they are no failure.
 void TellNotes(const std::string& name, const Design& design) {
   for (const std::string& note : design.Notes) Tell(name, note);
-}
-
-Problem WriteToStandardOutput(std::string_view bytes) {
-  return WriteProblem("standard output", WriteStandardOutput(bytes));
 }
 
 /// Appends the members of a line of JSON behind the name of the design, each with its comma ahead.
@@ -100,9 +97,7 @@ Problem WriteDrawing(const Options& options, Output& output, const std::string& 
   TellNotes(name, design);
   const std::optional<std::string> text = textOf(drawing);
   if (!text) return std::string(FileTooLarge);
-  if (output.IsStandardOutput()) return WriteToStandardOutput(*text);
-  const std::filesystem::path path = output.PathOf(name);
-  return WriteProblem(path, WriteWholeFile(path, *text));
+  return output.Write(name, *text);
 }
 
 /// A calculated design is saved as the window saves it; without a calculation every byte is the user's own.
@@ -115,10 +110,7 @@ Problem WriteDesign(const Options& options, Output& output, const std::string& n
   }
   if (design.Failed) return design.Failed;
   TellNotes(name, design);
-  const std::string bytes = BandSawText(design.Saw);
-  if (output.IsStandardOutput()) return WriteToStandardOutput(bytes);
-  const std::filesystem::path path = output.PathOf(name);
-  return WriteProblem(path, WriteWholeFile(path, bytes));
+  return output.Write(name, BandSawText(design.Saw));
 }
 
 /// Runs `work` on each design; no failure of one keeps the next from its turn.
@@ -163,6 +155,11 @@ ExitCode RunCommand(const Options& options) {
       Output output(options, ".bsw");
       return ForEachDesign(options,
                            [&](const std::string& name) { return WriteDesign(options, output, name); });
+    }
+    case Command::Machine: {
+      Output output(options, ".dxf");
+      return ForEachDesign(options,
+                           [&](const std::string& name) { return WriteMachine(options, output, name); });
     }
     case Command::Eval:
       return PrintValues(options.Texts, options.Settings.DecimalPlaces);

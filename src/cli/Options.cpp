@@ -133,6 +133,22 @@ CLI::App& AddBsw(CLI::App& app, Options& options) {
   return bsw;
 }
 
+CLI::App& AddMachine(CLI::App& app, Options& options) {
+  CLI::App& machine = AddCommand(
+      app, "machine",
+      "Print the band lengths of each design's machine as one line of JSON, and draw the machine", options);
+  AddOutput(machine, options, ".dxf");
+  machine.get_option("-o")->description(
+      "Write the machine of the one design to this DXF file; - is standard output, in place of the lengths");
+  machine.add_option("--svg", options.OutputFile, "The same as an SVG picture, on a sheet of 7 by 10 inches")
+      ->type_name("FILE")
+      ->excludes("-o")
+      ->excludes("--out-dir")
+      ->each([&options](const std::string&) { options.AsPicture = true; });
+  machine.add_flag("--entities", options.WithEntities, "Print the pieces of the drawing too");
+  return machine;
+}
+
 CLI::App& AddEval(CLI::App& app, Options& options) {
   CLI::App& eval = *app.add_subcommand(EvalName, "Print the number that each text stands for");
   AddOptionsForAll(eval, options);
@@ -162,11 +178,12 @@ std::vector<std::string> ArgumentsOf(int argc, const char* const* argv) {
 void CheckOutput(const Options& options) {
   const Command asked = options.Asked;
   if (asked == Command::Json || asked == Command::Power || asked == Command::Eval) return;
-  if (options.OutputFile.empty() && options.OutputFolder.empty()) {
+  if (asked != Command::Machine && options.OutputFile.empty() && options.OutputFolder.empty()) {
     throw CLI::RequiredError("-o FILE or --out-dir DIR");
   }
   if (!options.OutputFile.empty() && options.Designs.size() > 1) {
-    throw CLI::ValidationError("-o", "takes one design only; use --out-dir for several");
+    throw CLI::ValidationError(options.AsPicture ? "--svg" : "-o",
+                               "takes one design only; use --out-dir for several");
   }
 }
 
@@ -220,6 +237,7 @@ std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) 
   AddDxf(app, options).callback([&options] { options.Asked = Command::Dxf; });
   AddSvg(app, options).callback([&options] { options.Asked = Command::Svg; });
   AddBsw(app, options).callback([&options] { options.Asked = Command::Bsw; });
+  AddMachine(app, options).callback([&options] { options.Asked = Command::Machine; });
   AddEval(app, options).callback([&options] { options.Asked = Command::Eval; });
   try {
     app.parse(ArgumentsOf(argc, argv));

@@ -11,7 +11,7 @@
 
 namespace tarnwick::cli {
 
-enum class Command { Json, Power, Dxf, Svg, Bsw, Eval };
+enum class Command { Json, Power, Dxf, Svg, Bsw, Machine, Eval };
 
 /// Name of a design or an output that stands for standard input or output.
 inline constexpr const char* StandardStream = "-";
@@ -28,12 +28,14 @@ struct Options {
   std::optional<double> FeedIndexPercent;           // as given
   std::optional<double> Estimate;                   // power: percent by which the feed rate rises
 
-  bool WithEntities{};        // json: the drawing list too
+  bool WithEntities{};        // json, machine: the drawing list too
   bool WithoutCalculation{};  // json, power: the record as read
   bool WithCalculation{};     // bsw: the record as calculated
   bool Segment{};             // one segment of a variable band in place of the whole band
 
-  // dxf, svg and bsw: one of the two is given
+  bool AsPicture{};  // machine: the output is an SVG picture, no DXF file
+
+  // dxf, svg and bsw: one of the two is given; machine: one of the two, or none
   std::string OutputFile;    // of the one design; "-" is standard output
   std::string OutputFolder;  // of all designs, each under its own name
 };

@@ -3,6 +3,8 @@
 #include <system_error>
 #include <utility>
 
+#include "cli/Streams.h"
+#include "store/modFiles.h"
 #include "store/modPath.h"
 
 namespace tarnwick::cli {
@@ -41,6 +43,16 @@ fs::path Output::PathOf(const std::string& design) const {
   fs::path path = FilePath(options_.OutputFolder) / name;
   path += extension_;
   return path;
+}
+
+Problem Output::Write(const std::string& design, std::string_view bytes) const {
+  if (IsStandardOutput()) return WriteToStandardOutput(bytes);
+  const fs::path path = PathOf(design);
+  return WriteProblem(path, WriteWholeFile(path, bytes));
+}
+
+Problem WriteToStandardOutput(std::string_view bytes) {
+  return WriteProblem("standard output", WriteStandardOutput(bytes));
 }
 
 Problem WriteProblem(const fs::path& path, const std::error_code& failed) {

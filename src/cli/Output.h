@@ -24,6 +24,9 @@ class Output {
   /// The file of a design, from its name: "saws/oak.json" gives "oak.dxf" in the folder asked for.
   [[nodiscard]] std::filesystem::path PathOf(const std::string& design) const;
 
+  /// Puts the whole output of a design there.
+  [[nodiscard]] Problem Write(const std::string& design, std::string_view bytes) const;
+
   /// Whether the output is no file but standard output.
   [[nodiscard]] bool IsStandardOutput() const { return options_.OutputFile == StandardStream; }
 
@@ -33,6 +36,8 @@ class Output {
   std::set<std::filesystem::path> designs_;  // the files of all designs, by their one true name
   std::set<std::filesystem::path> claimed_;
 };
+
+[[nodiscard]] Problem WriteToStandardOutput(std::string_view bytes);
 
 /// The problem with a write that ended so; none when it went well.
 [[nodiscard]] Problem WriteProblem(const std::filesystem::path& path, const std::error_code& failed);
