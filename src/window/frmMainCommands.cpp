@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMenu>
+#include <QScreen>
 #include <QWidgetList>
 
 #include "platform/qt/QtText.h"
@@ -23,8 +25,12 @@ constexpr const char* OtherWindows[] = {"frmAbout",   "frmAnime", "frmBandCalc",
                                         "frmCDialog", "frmCfg",   "frmColor",    "frmDialog",
                                         "frmGauge",   "frmPower", "frmPowerEst", "frmSplash"};
 
-/// A text of the user's as a menu shows it: "&" would mark an access key.
-QString MenuText(const std::string& text) { return ToQt(text).replace('&', "&&"); }
+/// A path as a menu shows it: "&" would mark an access key. A path that would push the menu across the screen
+/// loses its middle, so that the name at its end is read.
+QString MenuText(const std::string& path, const QMenu& menu) {
+  const int room = menu.screen()->availableSize().width() / 2;
+  return menu.fontMetrics().elidedText(ToQt(path), Qt::ElideMiddle, room).replace('&', "&&");
+}
 
 }  // namespace
 
@@ -74,7 +80,8 @@ void frmMain::ShowRecentFiles() {
   mnuRecentFiles_[0]->setVisible(count > 0);
   for (qsizetype i = 1; i < mnuRecentFiles_.size(); ++i) {
     mnuRecentFiles_[i]->setVisible(i <= count);
-    if (i <= count) mnuRecentFiles_[i]->setText(MenuText(files[static_cast<std::size_t>(i) - 1].Path()));
+    if (i > count) continue;
+    mnuRecentFiles_[i]->setText(MenuText(files[static_cast<std::size_t>(i) - 1].Path(), *mnuFile_));
   }
 }
 

@@ -50,6 +50,7 @@ class mainDocumentTest : public QObject {
   void opensARecentFile();
   void showsTheRecentFilesOfYesterday();
   void showsNamesAsTheyAre();
+  void shortensALongPathInItsMiddle();
 
   void savesUnderItsName();
   void savesUnderAnotherName();
@@ -373,6 +374,24 @@ void mainDocumentTest::showsNamesAsTheyAre() {
   main_->Do("mnuItemNew");
   main_->Do("mnuRecentFiles(1)");
   QCOMPARE(Caption(), QString("head[*] & tail.bsw - Tarnwick"));
+}
+
+void mainDocumentTest::shortensALongPathInItsMiddle() {
+  main_->OpenBlank();
+  const std::string folder = Path(std::string(120, 'x').c_str());
+  fs::create_directory(folder);
+  const std::string path = folder + PathSeparator + "head.bsw";
+  fs::copy_file(Stored("head.bsw"), path);
+  Choose({path});
+  main_->Do("mnuItemOpen");
+  const QString shown = RecentFiles().front();
+  QVERIFY(shown.startsWith(ToQt(Folder())) && shown.endsWith("head.bsw"));
+  QVERIFY(shown.size() < ToQt(path).size());
+  const auto* file = Named<QMenu>(*main_->Window, "mnuFile");
+  QVERIFY(file->sizeHint().width() < main_->Window->screen()->availableSize().width() * 3 / 4);
+  main_->Do("mnuItemNew");
+  main_->Do("mnuRecentFiles(1)");
+  QCOMPARE(Design().SawDir(), folder + PathSeparator);
 }
 
 // ---- save

@@ -69,10 +69,15 @@ const MenuRows Menus[] = {
      "&Design",
      {{"mnuItemMain", Item, "Main Screen"},
       {"mnuItemGeneral", Item, "General Information"},
-      {"mnuItemToothShape", Item, "Tooth Shape Editor"}}},
+      {"mnuItemToothShape", Item, "Tooth Shape Editor"},
+      {"mnuItemVariable", Item, "Variable Pitch"},
+      {"mnuItemPower", Item, "Power Requirements"}}},
+    {"mnuTables", "Ta&bles", {{"mnuItemPlateGauge", Item, "Plate Gauge"}}},
     {"mnuTools",
      "&Tools",
-     {{"mnuItemCalculator", Item, "Calculator", "", Shown::No},
+     {{"mnuItemBandLength", Item, "Band Length Calculator"},
+      {"mnuItemPowerCalc", Item, "Power Calculator"},
+      {"mnuItemCalculator", Item, "Calculator", "", Shown::No},
       {"mnuItemToolsSep1", Separator},
       {"mnuItemOptions", Item, "&Options"}}},
     {"mnuHelp",
@@ -85,7 +90,7 @@ const MenuRows Menus[] = {
       {"mnuItemAbout", Item, "&About"}}},
 };
 
-const char* const MenusOfTheBar[] = {"mnuFile", "mnuView", "mnuDesign", "mnuTools", "mnuHelp"};
+const char* const MenusOfTheBar[] = {"mnuFile", "mnuView", "mnuDesign", "mnuTables", "mnuTools", "mnuHelp"};
 
 QString NameOf(const QAction* action) {
   return action->menu() ? action->menu()->objectName() : action->objectName();
@@ -251,6 +256,9 @@ void mainMenuTest::hintsAtEachButton_data() {
   row("tlbMain", "Click to display the main information window.");
   row("tlbGeneral", "Click to display the general information window.");
   row("tlbTeeth", "Click to display the tooth shape editor window.");
+  row("tlbVariable", "Click to display the variable pitch editor window.");
+  row("tlbPower", "Click to display the power requirements window.");
+  row("tlbMachine", "Click to open bandsaw length calculator window.");
   row("tlbViewAll", "Click to fit bandsaw to the display window.");
   row("tlbViewOne", "Click to view bandsaw at one to one scale.");
   row("tlbViewVar", "View Variable Segment");
