@@ -1,6 +1,5 @@
 #include "shell/DocumentCommands.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "dxf/modDXF.h"
@@ -46,12 +45,6 @@ bool Contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
 
-std::string LowerCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return text;
-}
-
 /// Where the name begins in a path, behind the last separator.
 std::size_t TitleStart(const std::string& path) {
   const std::size_t last = path.rfind(PathSeparator);
@@ -62,11 +55,9 @@ std::size_t TitleStart(const std::string& path) {
 bool HoldsExtension(const std::string& path) { return Contains(path, Extension); }
 
 /// The same in any case.
-bool HoldsDxf(const std::string& path) { return Contains(LowerCase(path), ".dxf"); }
+bool HoldsDxf(const std::string& path) { return HoldsEnding(path, ".dxf"); }
 
 bool HasExtension(const std::string& path) { return Contains(path.substr(TitleStart(path)), "."); }
-
-std::string UpToFirstPoint(const std::string& name) { return name.substr(0, name.find('.')); }
 
 }  // namespace
 
@@ -334,7 +325,7 @@ void DocumentCommands::ExportDxf() {
   const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, desk_.Process.Out.Say,
                                                       {.Filter = std::string(DxfFilter),
                                                        .Folder = Design().SawDir(),
-                                                       .Name = UpToFirstPoint(Design().FileName) + ".dxf",
+                                                       .Name = ExportName(Design().FileName, ".dxf"),
                                                        .WarnBeforeReplacing = true},
                                                       ".dxf", HoldsDxf);
   if (!path) return;
@@ -352,7 +343,7 @@ void DocumentCommands::SaveText() {
   const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, desk_.Process.Out.Say,
                                                       {.Filter = std::string(TextFilter),
                                                        .Folder = Design().SawDir(),
-                                                       .Name = UpToFirstPoint(Design().FileName) + ".txt",
+                                                       .Name = ExportName(Design().FileName, ".txt"),
                                                        .WarnBeforeReplacing = true},
                                                       ".txt", HasExtension);
   if (!path) return;

@@ -1,5 +1,7 @@
 #include "shell/SavePath.h"
 
+#include <algorithm>
+
 #include "store/modFiles.h"
 #include "store/modPath.h"
 
@@ -21,6 +23,18 @@ std::optional<std::string> AskSavePath(FileDialogs& files, Messages& say, const 
   const bool asks = question.WarnBeforeReplacing && FileExists(FilePath(whole));
   if (asks && say.Show(ReplaceQuestion(whole)) != Button::Yes) return std::nullopt;
   return whole;
+}
+
+std::string ExportName(const std::string& fileName, std::string_view extension) {
+  return fileName.substr(0, fileName.find('.')) + std::string(extension);
+}
+
+bool HoldsEnding(std::string_view path, std::string_view lowerCaseEnding) {
+  const auto same = [](char c, char lower) {
+    return (c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) == lower;
+  };
+  return std::search(path.begin(), path.end(), lowerCaseEnding.begin(), lowerCaseEnding.end(), same) !=
+         path.end();
 }
 
 }  // namespace tarnwick

@@ -18,6 +18,14 @@ namespace tarnwick {
                                                      const FileQuestion& question, std::string_view extension,
                                                      bool (*isWhole)(const std::string&));
 
+/// The name that the dialog of an export opens on: the design's, up to its first point, with the ending of
+/// the export.
+/// @param extension  with its point
+[[nodiscard]] std::string ExportName(const std::string& fileName, std::string_view extension);
+
+/// Whether a path holds the ending, in any case.
+[[nodiscard]] bool HoldsEnding(std::string_view path, std::string_view lowerCaseEnding);
+
 /// "This file already exists."
 [[nodiscard]] Box ReplaceQuestion(const std::string& path);
 

@@ -10,4 +10,8 @@ namespace tarnwick {
 /// Midnight is 12:00 am, noon 12:00 pm. Empty for a month that does not exist.
 [[nodiscard]] std::string TimeDateText(const LocalTime& time);
 
+/// The date of a print-out: "Nov, 21/26", the day without a zero ahead. Empty for a month that does not
+/// exist.
+[[nodiscard]] std::string PrintDateText(const LocalTime& time);
+
 }  // namespace tarnwick

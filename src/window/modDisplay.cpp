@@ -1,23 +1,16 @@
 #include "window/modDisplay.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
 #include "model/modDecim.h"
+#include "window/modGulletRow.h"
 #include "window/modRowText.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::string_view Average = "  (Average)";
-constexpr std::string_view ToothCaptions[] = {
-    "1st Tooth:", "2nd Tooth:", "3rd Tooth:", "4th Tooth:", "5th Tooth:", "6th Tooth:", "7th Tooth:"};
 constexpr int RowsOfATooth = 4;
-
-/// A gullet of no length and of hardly any teeth has no area worth showing.
-constexpr double LeastLengthForArea = 1.0;  // ft
-constexpr int LeastTeethForArea = 8;
 
 /// Adds row to row. A section is one function, in the order of the panel.
 class Builder {
@@ -65,7 +58,7 @@ class Builder {
 
   /// Says of the row just added that its figure is one for many teeth.
   void AverageIf(Flag flag) {
-    if (flag) rows_.back().Value += Average;
+    if (flag) rows_.back().Value += AverageMark;
   }
 
   // ---- sections
@@ -88,72 +81,23 @@ class Builder {
     SeatAndTip();
   }
 
-  void Radius1() { NumberIfSet(RowCode::Radius1, "1st Gullet Radius:", saw_.GulletInfo.Radius1, Inches); }
-  void Radius2() { NumberIfSet(RowCode::Radius2, "2nd Gullet Radius:", saw_.GulletInfo.Radius2, Inches); }
-  void Radius3() { NumberIfSet(RowCode::Radius3, "3rd Gullet Radius:", saw_.GulletInfo.Radius3, Inches); }
-  void SingleRadius() {
-    NumberIfSet(RowCode::GulletRadius, "Gullet Radius:", saw_.GulletInfo.Radius, Inches);
-  }
-  void GulletWidth() { NumberIfSet(RowCode::GulletWidth, "Gullet Width:", saw_.GulletInfo.Width, Inches); }
-  void BackAngle() { Number(RowCode::BackAngle, "Gullet Back Angle:", saw_.GulletInfo.BackAngle, Degrees); }
-
   void GulletOfStyle() {
-    switch (saw_.ToothStyle) {
-      case DoubleRadius:
-        Radius1();
-        Radius2();
-        GulletWidth();
-        BackAngle();
-        break;
-      case TripleRadius:
-        Radius1();
-        Radius2();
-        Radius3();
-        GulletWidth();
-        BackAngle();
-        break;
-      case FlatBottom:
-        Radius1();
-        Radius2();
-        NumberIfSet(RowCode::BottomAngle, "Gullet Bottom Angle:", saw_.GulletInfo.BottomAngle, Degrees);
-        GulletWidth();
-        if (saw_.GulletInfo.Radius2 != 0) BackAngle();
-        break;
-      case NarrowStyle:
-        SingleRadius();
-        break;
-      case OShape:
-        Radius1();
-        GulletWidth();
-        break;
-      case FrostTooth:
-        FrostNotch();
-        Radius1();
-        Radius2();
-        Radius3();
-        GulletWidth();
-        break;
-      default:
-        SingleRadius();
-        BackAngle();
-        break;
+    for (const GulletRow& row : GulletRowsOfStyle(saw_.ToothStyle)) {
+      const double measure = saw_.GulletInfo.*row.Measure;
+      if (row.Code == RowCode::BackAngle ? HasBack() : measure != 0) {
+        Number(row.Code, row.Caption, measure, row.Kind);
+      }
     }
   }
 
-  void FrostNotch() {
-    const BandSaw::Gullet& g = saw_.GulletInfo;
-    NumberIfSet(RowCode::FrostWidth, "Frost Notch Width:", g.FrostWidth, FineInches);
-    NumberIfSet(RowCode::FrostHeight, "Frost Notch Height:", g.FrostHeight, FineInches);
-    NumberIfSet(RowCode::FrostRadius, "Frost Notch Radius:", g.FrostRadius, FineInches);
-    NumberIfSet(RowCode::FrostAngle, "Frost Notch Angle:", g.FrostAngle, Degrees);
-  }
+  /// A back straight up is one too; a flat bottom without its second radius has none.
+  [[nodiscard]] bool HasBack() const { return saw_.ToothStyle != FlatBottom || saw_.GulletInfo.Radius2 != 0; }
 
   void Gullet() {
     const BandSaw::Gullet& g = saw_.GulletInfo;
     NumberIfSet(RowCode::GulletDepth, "Gullet Depth:", g.Depth, Inches);
     NumberIfSet(RowCode::BackRadius, "Gullet Back Radius:", g.BackRadius, Inches);
-    const bool hasRadius = g.Radius > 0 || g.Radius2 > 0 || g.Radius1 > 0;
-    if (saw_.Length >= LeastLengthForArea && saw_.NumTeeth >= LeastTeethForArea && hasRadius) {
+    if (ShowsGulletArea(saw_)) {
       Number(RowCode::GulletArea, "Gullet Area:", g.Area, SquareInches);
       AverageIf(saw_.GeneralInfo.VariableDepth);
     }
@@ -179,15 +123,14 @@ class Builder {
     Section("Variable Pitch:");
     Whole(RowCode::TeethInSegment, "Teeth in Segment:", saw_.GeneralInfo.NumVariables);
     Number(RowCode::SegmentLength, "Length of Segment:", saw_.DesignInfo.SegmentLength, Inches);
-    const int teeth = std::clamp<int>(saw_.GeneralInfo.NumVariables, 0, UsedSegmentMeasures);
-    for (int i = 0; i < teeth; ++i) ToothOfSegment(i);
+    for (int i = 0; i < TeethOfSegmentShown(saw_); ++i) ToothOfSegment(i);
   }
 
   void ToothOfSegment(int i) {
     const auto at = static_cast<std::size_t>(i);
     int code = static_cast<int>(RowCode::FirstTooth) + i * RowsOfATooth;
     const auto next = [&code] { return static_cast<RowCode>(code++); };
-    Text(next(), ToothCaptions[at], "");
+    Text(next(), ToothOfSegmentCaptions[at], "");
     Number(next(), "    Pitch:", saw_.GeneralInfo.VarPitch[at], Inches);
     Number(next(), "    Depth:", saw_.GeneralInfo.VarDepth[at], Inches);
     Number(next(), "    Area:", saw_.DesignInfo.VarArea[at], SquareInches);
