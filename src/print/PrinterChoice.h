@@ -8,11 +8,9 @@
 #include <vector>
 
 #include "platform/PrintDevice.h"
+#include "print/modPrintPage.h"
 
 namespace tarnwick {
-
-/// Which sheets of a saw go to the printer.
-enum class SawPages { Both, SawDrawing, SawInfo };
 
 /// A printer to choose, and for a saw which sheets. Its windows are frmPrinter, and frmPrinterPage with the
 /// pages and the quality.

@@ -1,0 +1,98 @@
+#include "print/modPrintHeader.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "model/modDecim.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr double TitleCenter = 5700, TitleTop = SheetRow;
+constexpr double CompanyTop = 2.25 * SheetRow, AddressTop = 3.25 * SheetRow;
+constexpr double LabelTop = 2.5 * SheetRow;  // of a label without a company above it; the date's too
+constexpr double LeastLeft = FootMargin;     // a title that has no room loses its end, not its beginning
+
+void AppendText(PrintSheet& sheet, double x, double y, std::string text, PrintFont font = {TextPoints}) {
+  sheet.push_back(SheetText{{x, y}, std::move(text), font});
+}
+
+void AppendTitle(PrintSheet& sheet, const std::string& title, const TextRuler& ruler) {
+  const PrintFont font{TitlePoints, true};
+  const double left = TitleCenter - ruler.TextSize(title, font).Width / 2;
+  AppendText(sheet, std::max(left, LeastLeft), TitleTop, title, font);
+}
+
+/// @return the top of the line below the company; where there is none, that of the label alone
+double AppendCompany(PrintSheet& sheet, const CustomerLines& customer) {
+  const std::vector<std::string> lines = CompanyBlock(customer);
+  if (lines.empty()) return LabelTop;
+  const double left = LabelX(1, PrintPage());
+  AppendText(sheet, left, CompanyTop, lines.front(), {CompanyPoints});
+  double top = AddressTop;
+  for (std::size_t i = 1; i < lines.size(); ++i, top += SheetRow) AppendText(sheet, left, top, lines[i]);
+  return top;
+}
+
+double AppendTitleAndCompany(PrintSheet& sheet, const PrintHeader& header, const PrintPage& page,
+                             const TextRuler& ruler) {
+  AppendTitle(sheet, header.Title, ruler);
+  AppendText(sheet, ValueX(2, page), LabelTop, header.Date);
+  return AppendCompany(sheet, header.Customer);
+}
+
+/// Appends `part` behind `separator`, if there is anything to separate.
+void Join(std::string& line, std::string_view separator, const std::string& part) {
+  if (part.empty()) return;
+  if (!line.empty()) line += separator;
+  line += part;
+}
+
+std::string CityLine(const CustomerLines& customer) {
+  std::string line = customer.City;
+  Join(line, ",", customer.Province);
+  Join(line, ",  ", customer.PostalCode);
+  return line;
+}
+
+std::string Named(const char* name, const std::string& value) { return value.empty() ? value : name + value; }
+
+std::string PhoneLine(const CustomerLines& customer) {
+  std::string line = Named("Phone: ", customer.Phone);
+  Join(line, "    ", Named("Fax: ", customer.Fax));
+  return line;
+}
+
+}  // namespace
+
+std::vector<std::string> CompanyBlock(const CustomerLines& customer) {
+  if (customer.Name.empty()) return {};
+  std::vector<std::string> lines{customer.Name,    customer.Address,    CityLine(customer),
+                                 customer.Country, PhoneLine(customer), Named("E-mail: ", customer.Email)};
+  lines.erase(std::remove(lines.begin(), lines.end(), std::string()), lines.end());
+  return lines;
+}
+
+std::string PageLabel(int page, int pages) {
+  return "Page " + std::to_string(page) + " of " + std::to_string(pages);
+}
+
+std::string SegmentLabel(int page, int pages) {
+  return "Pg" + DecimalText(page) + " of" + DecimalText(pages);
+}
+
+double AppendHeader(PrintSheet& sheet, const PrintHeader& header, const std::string& pageLabel,
+                    const PrintPage& page, const TextRuler& ruler) {
+  const double top = AppendTitleAndCompany(sheet, header, page, ruler);
+  AppendText(sheet, LabelX(1, page), top, pageLabel);
+  return top + SheetRow;
+}
+
+void AppendSegmentHeader(PrintSheet& sheet, const PrintHeader& header, const std::string& segmentLabel,
+                         const PrintPage& page, const TextRuler& ruler) {
+  AppendTitleAndCompany(sheet, header, page, ruler);
+  AppendText(sheet, LabelX(2, page), LabelTop, segmentLabel);
+}
+
+}  // namespace tarnwick

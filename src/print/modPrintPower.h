@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "power/modPowerSheet.h"
+#include "print/modPrintPage.h"
+#include "print/modPrintSheet.h"
+
+namespace tarnwick {
+
+/// A sheet of power figures below its header.
+struct PowerSheetText {
+  std::string Heading;  // above the lines
+  PowerLines Lines;
+  std::string Foot;  // below them; empty: none
+};
+
+/// Two blocks of fifty rows: the heading is the first row, the lines begin in the third. Rows stand as close
+/// as the sheet needs to hold all fifty, with smaller letters where they would touch.
+/// @param top  where the header ends
+void AppendPowerLines(PrintSheet& sheet, const PowerSheetText& text, const PrintPage& page, double top);
+
+}  // namespace tarnwick
