@@ -41,8 +41,26 @@ ToothLine CutThrough(const ToothProfile& tooth, double half, double shift) {
   return cut;
 }
 
-void NoteJoinPoint(const PlaneKit& kit, ToothProfile& tooth, Point point) {
-  Place(tooth.JoinPoint, kit.RoundTo(Checked(point.X)), kit.RoundTo(Checked(point.Y)));
+/// Where a cut meets a tooth, and which element of it.
+struct JoinCut {
+  Point Where;
+  JoinElement Element;
+};
+
+JoinCut FindCut(const PlaneKit& kit, const ToothProfile& tooth, double half, double shift) {
+  ToothLine cut = CutThrough(tooth, half, shift);
+  const JoinElement element = FindJoinElement(kit, cut, tooth);
+  return {cut.Start, element};
+}
+
+/// Notes the join point of a tooth and trims it.
+template <class Trim>
+void CutTooth(const PlaneKit& kit, BandTeeth& teeth, std::size_t index, const JoinCut& cut, Trim trim) {
+  ToothProfile tooth = teeth.Tooth(index);
+  // The trim takes the crossing as it is; the join point alone is rounded.
+  Place(tooth.JoinPoint, kit.RoundTo(Checked(cut.Where.X)), kit.RoundTo(Checked(cut.Where.Y)));
+  trim(kit, tooth, cut.Where, cut.Element);
+  teeth.SetTooth(index, tooth);
 }
 
 }  // namespace
@@ -56,26 +74,18 @@ double HalfPitchOf(const ToothProfile& tooth) {
   return Checked((tooth.TopLine.End.X - tooth.FaceLine.Start.X) * 0.5).OrZero();
 }
 
-void JoinBand(const PlaneKit& kit, const BandSaw& saw, Teeth& teeth, int last) {
-  const double half = HalfPitchOf(teeth.front());
+void JoinBand(const PlaneKit& kit, const BandSaw& saw, BandTeeth& teeth, int last) {
+  const double half = HalfPitchOf(teeth.Tooth(0));
   const double allow = JoinAllowance(kit, saw);
-  ToothProfile& firstTooth = teeth.front();
-  ToothLine leftCut = CutThrough(firstTooth, half, -allow);
+  const JoinCut left = FindCut(kit, teeth.Tooth(0), half, -allow);
   if (last < 0) {  // a band that runs backward has no last tooth to cut
-    const JoinElement left = FindJoinElement(kit, leftCut, firstTooth);
-    NoteJoinPoint(kit, firstTooth, leftCut.Start);
-    TrimToothStart(kit, firstTooth, leftCut.Start, left);
+    CutTooth(kit, teeth, 0, left, TrimToothStart);
     return;
   }
-  ToothProfile& lastTooth = teeth[static_cast<std::size_t>(last)];
-  ToothLine rightCut = CutThrough(lastTooth, half, allow);
-  const JoinElement left = FindJoinElement(kit, leftCut, firstTooth);
-  const JoinElement right = FindJoinElement(kit, rightCut, lastTooth);
-  NoteJoinPoint(kit, firstTooth, leftCut.Start);
-  NoteJoinPoint(kit, lastTooth, rightCut.Start);
-  // The trims take the crossings as they are; the join points alone are rounded.
-  TrimToothStart(kit, firstTooth, leftCut.Start, left);
-  TrimToothEnd(kit, lastTooth, rightCut.Start, right);
+  const auto n = static_cast<std::size_t>(last);
+  const JoinCut right = FindCut(kit, teeth.Tooth(n), half, allow);
+  CutTooth(kit, teeth, 0, left, TrimToothStart);
+  CutTooth(kit, teeth, n, right, TrimToothEnd);
 }
 
 JoinElement FindJoinElement(const PlaneKit& kit, ToothLine& cut, const ToothProfile& tooth) {

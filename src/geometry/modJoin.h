@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/modBandTeeth.h"
 #include "geometry/modToothFamily.h"
 #include "geometry/modToothWork.h"
 
@@ -15,7 +16,7 @@ namespace tarnwick {
 /// Cuts the ends of the band: finds where a line square to the band, through the middle of the tooth, meets
 /// the first tooth and the one at `last`, notes the join points, and trims the two teeth. A cut that meets
 /// nothing leaves its tooth whole.
-void JoinBand(const PlaneKit& kit, const BandSaw& saw, Teeth& teeth, int last);
+void JoinBand(const PlaneKit& kit, const BandSaw& saw, BandTeeth& teeth, int last);
 
 /// The element of `tooth` that `cut` meets first, in the order of the style; the crossing goes into
 /// cut.Start. None: the cut stays.

@@ -1,5 +1,8 @@
 #include "geometry/modTooth.h"
 
+#include <optional>
+#include <utility>
+
 #include "geometry/modBand.h"
 #include "geometry/modOneTooth.h"
 #include "geometry/modPitch.h"
@@ -45,45 +48,53 @@ void DropVariablePitch(BandSaw& saw) {
   if (never && saw.GeneralInfo.VariablePitch != False) ResetVariablePitch(saw);
 }
 
-/// The way that band and segment have in common: settles pitch and width and calculates the one tooth, as the
-/// first of `teeth`. False when the measures are not all there.
-bool CalculateFirstTooth(BandSaw& saw, const PlaneKit& kit, bool complete, Teeth& teeth, Messages& messages) {
+/// The way that band and segment have in common: settles pitch and width and calculates the one tooth. None
+/// when the measures are not all there.
+std::optional<ToothProfile> CalculateFirstTooth(BandSaw& saw, const PlaneKit& kit, bool complete,
+                                                Messages& messages) {
   saw.GulletInfo.FaceLength = 0;
   DropVariablePitch(saw);
   SettlePitch(saw, kit);
-  if (!complete) return false;
+  if (!complete) return {};
   SettleWidth(saw);
-  teeth.resize(1);
-  ToothWork work{saw, teeth.front(), kit, messages};
+  ToothProfile tooth;
+  ToothWork work{saw, tooth, kit, messages};
   CalculateTooth(work);
-  return true;
+  return tooth;
+}
+
+/// Of the teeth that stand in a band, the first alone is rounded once more.
+void RoundFirstTooth(const PlaneKit& kit, BandTeeth& teeth) {
+  ToothProfile first = teeth.Tooth(0);
+  RoundTooth(kit, first);
+  teeth.SetTooth(0, first);
 }
 
 }  // namespace
 
-EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages) {
-  if (saw.NumTeeth < 0) return {};  // no room can be made for such teeth, and nothing is touched
+EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages,
+                        EntityList list) {
+  list.Clear();
+  if (saw.NumTeeth < 0) return list;  // no room can be made for such teeth, and nothing is touched
   const PlaneKit kit(settings.DecimalPlaces);
-  Teeth teeth;
-  if (!CalculateFirstTooth(saw, kit, IsComplete(saw), teeth, messages)) return {};
-  if (saw.GeneralInfo.VariablePitch != False) {
-    LayOutVariableBand(kit, saw, teeth, settings, messages);
-  } else {
-    LayOutBand(kit, saw, teeth, settings);
-  }
-  RoundTooth(kit, teeth.front());
-  return BuildBandEntities(kit, saw, teeth);
+  const auto tooth = CalculateFirstTooth(saw, kit, IsComplete(saw), messages);
+  if (!tooth) return list;
+  BandTeeth teeth = saw.GeneralInfo.VariablePitch != False
+                        ? LayOutVariableBand(kit, saw, *tooth, settings, messages)
+                        : LayOutBand(kit, saw, *tooth, settings);
+  RoundFirstTooth(kit, teeth);
+  return BuildBandEntities(kit, saw, teeth, std::move(list));
 }
 
 EntityList CalculateSegment(BandSaw& saw, const CalculationSettings& settings, Messages& messages) {
   if (saw.NumTeeth < 0) return {};
   const PlaneKit kit(settings.DecimalPlaces);
-  Teeth teeth;
   // A segment of Frost teeth asks for the plain radius, as styles without a row do: meant.
   const bool complete = saw.ToothStyle == FrostTooth ? saw.GulletInfo.Radius > 0 : IsComplete(saw);
-  if (!CalculateFirstTooth(saw, kit, complete, teeth, messages)) return {};
-  LayOutVariableSegment(kit, saw, teeth, settings, messages);
-  RoundTooth(kit, teeth.front());
+  const auto tooth = CalculateFirstTooth(saw, kit, complete, messages);
+  if (!tooth) return {};
+  BandTeeth teeth = LayOutVariableSegment(kit, saw, *tooth, settings, messages);
+  RoundFirstTooth(kit, teeth);
   return BuildSegmentEntities(kit, teeth, saw.GeneralInfo.NumVariables + 2);
 }
 

@@ -17,7 +17,10 @@ class Messages;
 /// then. Narrow and O teeth cannot be variable: their variable pitch data are reset, which a window has to
 /// show. Nothing fails: a statement that cannot be worked out is skipped. The few routines that report do so
 /// on `messages`.
-[[nodiscard]] EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages);
+///
+/// A list that is no longer needed can be handed in: its memory serves again.
+[[nodiscard]] EntityList CalculateSaw(BandSaw& saw, const CalculationSettings& settings, Messages& messages,
+                                      EntityList list = {});
 
 /// One segment of a variable pitch band and one tooth more, for its picture on its own; no outline.
 [[nodiscard]] EntityList CalculateSegment(BandSaw& saw, const CalculationSettings& settings,

@@ -51,6 +51,9 @@ class Rounding {
     return value.Ok() ? Checked((*this)(value.OrZero())) : value;
   }
 
+  /// One of the last place.
+  [[nodiscard]] double Unit() const noexcept { return 1 / scale_; }
+
  private:
   static constexpr double WholeFrom =
       9007199254740992.0;  // 2^53: every double from here on is a whole number

@@ -4,6 +4,13 @@
 
 namespace tarnwick {
 
+void EntityList::Clear() {
+  Header = {};
+  Entities.clear();
+  Repetitions.clear();
+  Lost = 0;
+}
+
 void AppendEntities(EntityList& target, const EntityList& source, int memorySize, Messages& messages) {
   constexpr double LinesPerEntity = 8;
   const std::size_t total = target.Count() + source.Count();

@@ -64,20 +64,35 @@ struct ListHeader {
   double ViewCenterY{};  // half of MaxY
 };
 
+/// A part of a list that stands there many times, side by side: `Times` groups of `Size` entities each, lines
+/// and arcs, the first of them from `First` on. From one group to the next nothing changes but X, and no X
+/// becomes smaller; so a walker need not look at every group to know where they all are.
+struct Repetition {
+  std::size_t First{}, Size{}, Times{};
+
+  [[nodiscard]] std::size_t Group(std::size_t number) const { return First + Size * number; }
+  [[nodiscard]] std::size_t End() const { return Group(Times); }
+};
+
 /// The one drawing list that screen, paper, extents and DXF all walk. Built whole, never patched.
 struct EntityList {
   ListHeader Header;
   std::vector<Entity> Entities;
+  std::vector<Repetition> Repetitions;  // in the order of the entities; what is not listed may repeat too
   std::size_t Lost{};  // entities that found no room in a list sized for a negative count of teeth: counted,
                        // never drawn
 
   /// What a builder's running index came to.
   [[nodiscard]] std::size_t Count() const { return Entities.size() + Lost; }
+
+  /// Makes it a fresh list that keeps its memory: fresh memory is what a list of many teeth costs most.
+  void Clear();
 };
 
 /// Appends `source` to `target`. Refused with the message "Increase dxf memory!", `target` untouched, when
 /// the merged list would hold more than MemorySize / 8 entities (eight lines of a DXF file an entity). The
 /// target keeps its header, but an empty target takes over the source's, which travels with its first entity.
+/// What the source says about its repetitions stays behind.
 void AppendEntities(EntityList& target, const EntityList& source, int memorySize, Messages& messages);
 
 }  // namespace tarnwick

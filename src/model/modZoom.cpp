@@ -116,7 +116,16 @@ Extents ComputeExtents(const EntityList& list) {
     if constexpr (!std::is_same_v<Kind, TextEntity> && !std::is_same_v<Kind, SolidEntity>)
       Measure(entity, box);
   };
-  for (const Entity& entity : list.Entities) std::visit(measure, entity);
+  std::size_t next = 0;
+  const auto measureUpTo = [&](std::size_t end) {
+    for (; next < end; ++next) std::visit(measure, list.Entities[next]);
+  };
+  // The box of groups that are alike but for X is that of the outermost two.
+  for (const Repetition& part : list.Repetitions) {
+    measureUpTo(part.Group(1));
+    next = part.Group(part.Times - 1);
+  }
+  measureUpTo(list.Entities.size());
 
   const Rounding round(ExtentPlaces);
   for (double* limit : {&box.MinY, &box.MinX, &box.MaxY, &box.MaxX}) *limit = round(*limit);

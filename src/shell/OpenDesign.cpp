@@ -1,5 +1,7 @@
 #include "shell/OpenDesign.h"
 
+#include <utility>
+
 #include "geometry/modTooth.h"
 #include "model/modZoom.h"
 #include "store/modPath.h"
@@ -28,7 +30,7 @@ void OpenDesign::ApplySettings() {
 }
 
 void OpenDesign::Recalculate(Messages& messages) {
-  Lines = CalculateSaw(Saw, Settings.Calculation, messages);
+  Lines = CalculateSaw(Saw, Settings.Calculation, messages, std::move(Lines));
   View.FitScale(ComputeExtents(Lines));
 }
 

@@ -22,31 +22,32 @@ double& At(SegmentMeasures& measures, int index) {
   return measures[static_cast<std::size_t>(index)];
 }
 
-/// One layout of a segment's teeth, with what it works out on the way.
+/// The teeth of a segment, placed one by one, and what is worked out on the way.
 class SegmentLayout {
  public:
-  SegmentLayout(const PlaneKit& kit, BandSaw& saw, Teeth& teeth, Messages& messages)
-      : kit_(kit), saw_(saw), teeth_(teeth), messages_(messages) {}
+  SegmentLayout(const PlaneKit& kit, BandSaw& saw, const ToothProfile& base, Messages& messages)
+      : kit_(kit), saw_(saw), messages_(messages), teeth_(1, base) {}
 
   /// Places teeth[0], which is the last tooth of a segment seen from the start of the band, and teeth[1] to
   /// teeth[n], and writes the accepted depths and the areas back into the record.
   void PlaceSegment();
+  /// Those that have been placed so far.
+  [[nodiscard]] const Teeth& Placed() const { return teeth_; }
 
   /// Repeats the segment until the band is full.
-  void RepeatSegment();
+  void RepeatSegment(BandTeeth& band) const;
   /// Adds the first tooth of the next segment.
-  void StartNextSegment();
-
-  /// The place at `index` of an array that was made for teeth on both edges and no larger.
-  ToothProfile& Slot(int index);
+  void StartNextSegment(BandTeeth& band) const;
 
  private:
   void PlaceVariableTooth(int index, int segmentIndex);
+  void Repeat(BandTeeth& band, int index, int tooth, double offset) const;
+  [[nodiscard]] std::size_t Slot(int index) const;
 
   const PlaneKit& kit_;
   BandSaw& saw_;
-  Teeth& teeth_;
   Messages& messages_;
+  Teeth teeth_;
 
   const int n_ = saw_.GeneralInfo.NumVariables;
   SegmentMeasures pitch_ = saw_.GeneralInfo.VarPitch;
@@ -59,16 +60,15 @@ class SegmentLayout {
   double body_ = 0;  // how far all else of it moves
 };
 
-ToothProfile& SegmentLayout::Slot(int index) {
+/// The place at `index` of an array that was made for teeth on both edges and no larger.
+std::size_t SegmentLayout::Slot(int index) const {
   const int lastIndex = (saw_.NumTeeth + 1) * 2;
   if (index > lastIndex) throw StatementFailed{Failure::Subscript};
-  const auto place = static_cast<std::size_t>(index);
-  if (place >= teeth_.size()) teeth_.resize(place + 1);
-  return teeth_[place];
+  return static_cast<std::size_t>(index);
 }
 
 void SegmentLayout::PlaceSegment() {
-  Slot(0);
+  static_cast<void>(Slot(0));
   averagePitch_ = Need(Quotient(saw_.Length * InchesPerFoot, saw_.NumTeeth));
   const double lastPitch = At(pitch_, n_ - 1);
   const double shift = Need(-(lastPitch * 0.5 - JoinAllowance(kit_, saw_)));
@@ -106,40 +106,58 @@ void SegmentLayout::PlaceVariableTooth(int index, int segmentIndex) {
   }
   At(area_, segmentIndex) = area;
 
-  ToothProfile& placed = Slot(index);
+  const std::size_t slot = Slot(index);
+  if (slot >= teeth_.size()) teeth_.resize(slot + 1);
+  ToothProfile& placed = teeth_[slot];
   TranslateToothParts(kit_, shaped, placed, top_, body_);
   FitBackRadius(placed, kit_);
   RoundTooth(kit_, placed);
 }
 
-void SegmentLayout::RepeatSegment() {
+void SegmentLayout::Repeat(BandTeeth& band, int index, int tooth, double offset) const {
+  band.Repeat(Slot(index), static_cast<std::size_t>(tooth), offset);
+}
+
+void SegmentLayout::RepeatSegment(BandTeeth& band) const {
   const int segments = static_cast<int>(std::nearbyint(static_cast<double>(saw_.NumTeeth) / n_));
   double offset = 0;
   for (int segment = 1; segment < segments; ++segment) {
     offset = Need(offset + segmentLength_);
-    for (int k = 1; k <= n_; ++k) {
-      ToothProfile& target = Slot(segment * n_ + k);
-      TranslateTooth(kit_, teeth_[static_cast<std::size_t>(k)], target, offset, 0);
-    }
+    for (int k = 1; k <= n_; ++k) Repeat(band, segment * n_ + k, k, offset);
   }
 }
 
-void SegmentLayout::StartNextSegment() {
-  ToothProfile& target = Slot(n_ + 1);
-  TranslateTooth(kit_, teeth_[1], target, segmentLength_, 0);
-}
+void SegmentLayout::StartNextSegment(BandTeeth& band) const { Repeat(band, n_ + 1, 1, segmentLength_); }
 
-/// The handler of both layouts.
+/// The handler of both layouts. True when `routine` came to its end.
 template <class Routine>
-void LayOutOrReport(Messages& messages, Routine routine) {
-  HandleFailure(routine, [&messages](Failure why) {
+bool LayOutOrReport(Messages& messages, Routine routine) {
+  return HandleFailure(routine, [&messages](Failure why) {
     messages.Show({.Text = "Error in function CalculateVariableSaw  Error Number" +
                            std::to_string(static_cast<int>(why))});
   });
 }
 
 /// As many teeth as the drawing walks, whatever the layout came to.
-void TrimToCount(Teeth& teeth, int count) { teeth.resize(static_cast<std::size_t>(std::max(count, 1))); }
+void TrimToCount(BandTeeth& teeth, int count) { teeth.Resize(static_cast<std::size_t>(std::max(count, 1))); }
+
+/// The first tooth tells the drawing that there is another edge; one without pieces does not know.
+void MarkBothEdges(BandTeeth& teeth) {
+  ToothProfile first = teeth.Tooth(0);
+  first.BothEdges = True;
+  teeth.SetTooth(0, first);
+}
+
+/// Lays out a segment, and by `finish(layout, band)` what comes of it. A failure ends it where it is.
+template <class Finish>
+BandTeeth LayOutFromSegment(const PlaneKit& kit, BandSaw& saw, const ToothProfile& base, Messages& messages,
+                            Finish finish) {
+  SegmentLayout layout(kit, saw, base, messages);
+  const bool placed = LayOutOrReport(messages, [&] { layout.PlaceSegment(); });
+  BandTeeth band(kit, layout.Placed());
+  if (placed) LayOutOrReport(messages, [&] { finish(layout, band); });
+  return band;
+}
 
 }  // namespace
 
@@ -153,45 +171,42 @@ VariablePitchAnswer CanUseVariablePitch(int toothStyle, int numTeeth) {
   return divides ? VariablePitchAnswer::Allowed : VariablePitchAnswer::TeethNotDivisible;
 }
 
-void LayOutVariableBand(const PlaneKit& kit, BandSaw& saw, Teeth& teeth, const CalculationSettings& settings,
-                        Messages& messages) {
+BandTeeth LayOutVariableBand(const PlaneKit& kit, BandSaw& saw, const ToothProfile& base,
+                             const CalculationSettings& settings, Messages& messages) {
   const int last = saw.NumTeeth;
-  const bool bothEdges = teeth.front().BothEdges != False;
-  if (last > 0) teeth.reserve((bothEdges ? 2U : 1U) * (static_cast<std::size_t>(last) + 1));
-  LayOutOrReport(messages, [&] {
-    SegmentLayout layout(kit, saw, teeth, messages);
-    layout.PlaceSegment();
-    layout.RepeatSegment();
-    TrimToCount(teeth, last + 1);
-    JoinBand(kit, saw, teeth, last);
-    if (settings.TeethDirection == RightToLeft) MirrorBandX(kit, teeth, last);
+  const bool bothEdges = base.BothEdges != False;
+  const auto finish = [&](const SegmentLayout& layout, BandTeeth& band) {
+    layout.RepeatSegment(band);
+    TrimToCount(band, last + 1);
+    JoinBand(kit, saw, band, last);
+    if (settings.TeethDirection == RightToLeft) MirrorBandX(band, last);
     if (bothEdges) {
-      teeth.front().BothEdges = True;
-      AddOtherEdge(kit, teeth, last);
+      MarkBothEdges(band);
+      AddOtherEdge(band, last);
     }
-  });
-  TrimToCount(teeth, bothEdges ? 2 * (last + 1) : last + 1);
+  };
+  BandTeeth band = LayOutFromSegment(kit, saw, base, messages, finish);
+  TrimToCount(band, bothEdges ? 2 * (last + 1) : last + 1);
+  return band;
 }
 
-void LayOutVariableSegment(const PlaneKit& kit, BandSaw& saw, Teeth& teeth,
-                           const CalculationSettings& settings, Messages& messages) {
+BandTeeth LayOutVariableSegment(const PlaneKit& kit, BandSaw& saw, const ToothProfile& base,
+                                const CalculationSettings& settings, Messages& messages) {
   const int last = saw.GeneralInfo.NumVariables + 1;
-  LayOutOrReport(messages, [&] {
-    SegmentLayout layout(kit, saw, teeth, messages);
-    layout.PlaceSegment();
-    layout.StartNextSegment();
-    JoinBand(kit, saw, teeth, last);
-    if (settings.TeethDirection == RightToLeft) MirrorBandX(kit, teeth, last);
+  return LayOutFromSegment(kit, saw, base, messages, [&](const SegmentLayout& layout, BandTeeth& band) {
+    layout.StartNextSegment(band);
+    JoinBand(kit, saw, band, last);
+    if (settings.TeethDirection == RightToLeft) MirrorBandX(band, last);
   });
 }
 
-EntityList BuildSegmentEntities(const PlaneKit& kit, const Teeth& teeth, int toothCount) {
+EntityList BuildSegmentEntities(const PlaneKit& kit, const BandTeeth& teeth, int toothCount) {
   constexpr int piecesPerTooth = 12;
   EntityList list;
   PieceList pieces(kit, list, RoomFor(toothCount, piecesPerTooth));
-  const std::size_t count = std::min(teeth.size(), static_cast<std::size_t>(std::max(toothCount, 0)));
+  const std::size_t count = std::min(teeth.Size(), static_cast<std::size_t>(std::max(toothCount, 0)));
   for (std::size_t i = 0; i < count; ++i) {
-    const ToothProfile& tooth = teeth[i];
+    const ToothProfile tooth = teeth.Tooth(i);
     pieces.Add(tooth.FaceLine);
     pieces.Add(tooth.SeatLine);
     pieces.Add(tooth.DropLine);

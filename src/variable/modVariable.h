@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/modBandTeeth.h"
 #include "geometry/modToothWork.h"
 #include "model/modEntity.h"
 #include "model/modSettings.h"
@@ -15,20 +16,20 @@ enum class VariablePitchAnswer { Allowed = 1, StyleNotAllowed = 2, TeethNotDivis
 /// and a count that 3, 4, 5, 6 or 7 divides.
 [[nodiscard]] VariablePitchAnswer CanUseVariablePitch(int toothStyle, int numTeeth);
 
-/// The whole band, with teeth[0] holding the finished base tooth: in place of LayOutBand. `saw` gets the
-/// depths that were accepted and the gullet area of each tooth of the segment.
+/// The whole band from its finished base tooth: in place of LayOutBand. `saw` gets the depths that were
+/// accepted and the gullet area of each tooth of the segment. `kit` has to outlive the band.
 ///
 /// Stops at a statement that fails, reports "Error in function CalculateVariableSaw  Error Number" with the
 /// number, and leaves the teeth as they stand. NumVariables outside 3 to 7 is not tested: up to 9 it works.
-void LayOutVariableBand(const PlaneKit& kit, BandSaw& saw, Teeth& teeth, const CalculationSettings& settings,
-                        Messages& messages);
+[[nodiscard]] BandTeeth LayOutVariableBand(const PlaneKit& kit, BandSaw& saw, const ToothProfile& base,
+                                           const CalculationSettings& settings, Messages& messages);
 
 /// One segment and the start of the next: NumVariables + 2 teeth, cut at both ends. No second edge.
-void LayOutVariableSegment(const PlaneKit& kit, BandSaw& saw, Teeth& teeth,
-                           const CalculationSettings& settings, Messages& messages);
+[[nodiscard]] BandTeeth LayOutVariableSegment(const PlaneKit& kit, BandSaw& saw, const ToothProfile& base,
+                                              const CalculationSettings& settings, Messages& messages);
 
 /// The drawing of a segment of `toothCount` teeth: pieces alone, no piece twice, no notch, no outline and no
 /// header.
-[[nodiscard]] EntityList BuildSegmentEntities(const PlaneKit& kit, const Teeth& teeth, int toothCount);
+[[nodiscard]] EntityList BuildSegmentEntities(const PlaneKit& kit, const BandTeeth& teeth, int toothCount);
 
 }  // namespace tarnwick

@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "support/AllTeeth.h"
 #include "support/Pieces.h"
 #include "support/Shapes.h"
 
 namespace tarnwick {
 namespace {
 
+using test::AllOf;
 using test::At;
 using test::ForEachPiece;
 using test::FullTooth;
@@ -47,9 +49,7 @@ BandSaw PlainSaw(int teeth) {
 Teeth LaidOut(const BandSaw& saw, const CalculationSettings& settings = {}, Flag bothEdges = False,
               ToothProfile first = PlainTooth()) {
   first.BothEdges = bothEdges;
-  Teeth teeth(1, first);
-  LayOutBand(Kit, saw, teeth, settings);
-  return teeth;
+  return AllOf(LayOutBand(Kit, saw, first, settings));
 }
 
 // ---- laying out
@@ -139,13 +139,14 @@ TEST(LayOutBand, TurnsAroundBeforeItAddsTheOtherEdge) {
 }
 
 TEST(AddOtherEdge, TakesTheHeightOfTheTopWhereTheFaceIsGone) {
-  Teeth teeth(1, PlainTooth());
-  teeth[0].FaceLine = {};
-  teeth[0].JoinPoint = {1, 4};
-  teeth.resize(2);
-  AddOtherEdge(Kit, teeth, 0);
-  EXPECT_TRUE(Near(teeth[1].TopLine.End, {1.75, 0}, 3e-5));
-  EXPECT_TRUE(Near(teeth[1].JoinPoint, {1, 1}, 3e-5));
+  ToothProfile first = PlainTooth();
+  first.FaceLine = {};
+  first.JoinPoint = {1, 4};
+  BandTeeth teeth(Kit, {first});
+  AddOtherEdge(teeth, 0);
+  ASSERT_EQ(teeth.Size(), 2U);
+  EXPECT_TRUE(Near(teeth.Tooth(1).TopLine.End, {1.75, 0}, 3e-5));
+  EXPECT_TRUE(Near(teeth.Tooth(1).JoinPoint, {1, 1}, 3e-5));
 }
 
 TEST(MirrorBandX, ReversesTheOrder) {
@@ -155,12 +156,13 @@ TEST(MirrorBandX, ReversesTheOrder) {
     teeth[i].FaceLine = {{10 + x, 5}, {10 + x, 4}};
     teeth[i].JoinPoint = {12 * x + 1, 3};
   }
-  MirrorBandX(Kit, teeth, 2);
+  BandTeeth band(Kit, teeth);
+  MirrorBandX(band, 2);
   for (std::size_t i = 0; i < 3; ++i) {
     const double was = 10 + static_cast<double>(2 - i);
-    EXPECT_TRUE(Near(teeth[i].FaceLine.Start, {25 - was, 5}, 2e-5)) << i;
+    EXPECT_TRUE(Near(band.Tooth(i).FaceLine.Start, {25 - was, 5}, 2e-5)) << i;
   }
-  EXPECT_NEAR(teeth[0].JoinPoint.X, 0, 2e-5);
+  EXPECT_NEAR(band.Tooth(0).JoinPoint.X, 0, 2e-5);
 }
 
 // ---- the drawing of a band
@@ -186,15 +188,15 @@ std::string NameOf(const Entity& entity, const ToothProfile& tooth) {
 
 TEST(BuildBandEntities, DrawsThePiecesOfAToothInTheOrderOfTheCutting) {
   BandSaw saw;
-  const Teeth teeth(1, FullTooth());
-  const EntityList list = BuildBandEntities(Kit, saw, teeth);
+  const ToothProfile tooth = FullTooth();
+  const EntityList list = BuildBandEntities(Kit, saw, BandTeeth(Kit, {tooth}));
   const std::vector<std::string> order{"FaceLine",  "SeatLine",        "DropLine",  "FrostFaceLine",
                                        "FrostArc",  "FrostBottomLine", "FirstArc",  "SecondArc",
                                        "ThirdArc",  "BottomLine",      "SecondArc", "ThirdArc",
                                        "GulletArc", "BackLine",        "BackArc",   "TopLine"};
   ASSERT_EQ(list.Count(), order.size() + 3);
   for (std::size_t i = 0; i < order.size(); ++i) {
-    EXPECT_EQ(NameOf(list.Entities[i], teeth[0]), order[i]) << i;
+    EXPECT_EQ(NameOf(list.Entities[i], tooth), order[i]) << i;
     if (const auto* line = std::get_if<LineEntity>(&list.Entities[i])) {
       EXPECT_FALSE(line->IsOutline);
       EXPECT_FALSE(line->IsDotted);
@@ -211,7 +213,7 @@ TEST(BuildBandEntities, LeavesOutWhatDoesNotExist) {
   tooth.GulletArc = {1, 1, 0, 180, 270};
   tooth.FirstArc = {1, 1, -0.5, 180, 270};
   tooth.SecondArc = {1, 1, 0.00001, 180, 270};
-  const EntityList list = BuildBandEntities(Kit, saw, Teeth(1, tooth));
+  const EntityList list = BuildBandEntities(Kit, saw, BandTeeth(Kit, {tooth}));
   ASSERT_EQ(list.Count(), 1u + 2 + 3) << "the drop line, the second arc twice, the outline";
   EXPECT_EQ(std::get<LineEntity>(list.Entities[0]).Corner4X, 1.00001);
   EXPECT_EQ(std::get<ArcEntity>(list.Entities[1]).Radius, 0.00001);
@@ -233,13 +235,13 @@ void ExpectLine(const LineEntity& line, Point from, Point to, bool dotted) {
 }
 
 /// Empty teeth with join points: a drawing of the outline alone.
-Teeth JoinsOnly(int count, Flag bothEdges) {
+BandTeeth JoinsOnly(int count, Flag bothEdges) {
   Teeth teeth(static_cast<std::size_t>(count));
   for (std::size_t i = 0; i < teeth.size(); ++i) {
     teeth[i].JoinPoint = {10.0 * static_cast<double>(i) + 0.5, 4 - 0.25 * static_cast<double>(i)};
     teeth[i].BothEdges = bothEdges;
   }
-  return teeth;
+  return {Kit, teeth};
 }
 
 TEST(BandOutline, HasTwoEndsAndTheBackEdge) {
@@ -281,7 +283,7 @@ TEST(BandOutline, MarksTheLapBetweenTheEdgesToo) {
 
 TEST(BandOutline, IsDrawnEvenWhereItHasNoLength) {
   BandSaw saw = PlainSaw(0);
-  EXPECT_EQ(OutlineOf(BuildBandEntities(Kit, saw, Teeth(1))).size(), 3u);
+  EXPECT_EQ(OutlineOf(BuildBandEntities(Kit, saw, BandTeeth(Kit, Teeth(1)))).size(), 3u);
 }
 
 TEST(BuildBandEntities, PutsWidthAndLengthIntoTheHeader) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/AllTeeth.h"
 #include "support/Pieces.h"
 #include "support/Shapes.h"
 
@@ -248,11 +249,17 @@ Teeth PlainBand(int last, double pitch) {
   return teeth;
 }
 
+void CutEnds(const BandSaw& saw, Teeth& teeth) {
+  BandTeeth band(Kit, teeth);
+  JoinBand(Kit, saw, band, static_cast<int>(teeth.size()) - 1);
+  teeth = test::AllOf(band);
+}
+
 TEST(JoinBand, CutsBothEndsThroughTheMiddleOfATooth) {
   BandSaw saw;
   Teeth teeth = PlainBand(3, 1.75);
   const Teeth before = teeth;
-  JoinBand(Kit, saw, teeth, 3);
+  CutEnds(saw, teeth);
   // half a pitch is 0.875, 0.375 right of the gullet's centre: sqrt(0.25 - 0.140625) below it
   const double y = 4.5 - 0.330719;
   EXPECT_TRUE(Near(teeth[0].JoinPoint, {0.875, y}, 5e-5));
@@ -278,7 +285,7 @@ TEST(JoinBand, LeavesTheAllowanceOfAnOverlapOnBothEnds) {
   saw.DesignInfo.JoinStyle = OverlapJoin;
   saw.GeneralInfo.PlateThick = 0.05;
   Teeth teeth = PlainBand(3, 1.75);
-  JoinBand(Kit, saw, teeth, 3);
+  CutEnds(saw, teeth);
   EXPECT_NEAR(teeth[0].JoinPoint.X, 0.875 - 0.3125, 2e-5);
   EXPECT_NEAR(teeth[3].JoinPoint.X, 6.125 + 0.3125, 2e-5);
   EXPECT_NEAR(teeth[3].JoinPoint.Y, 5, 5e-5) << "on the top of the last tooth";
@@ -288,7 +295,7 @@ TEST(JoinBand, LeavesTheAllowanceOfAnOverlapOnBothEnds) {
 TEST(JoinBand, TrimsASingleToothOnItsTwoSides) {
   BandSaw saw;
   Teeth teeth = PlainBand(1, 1.75);
-  JoinBand(Kit, saw, teeth, 1);
+  CutEnds(saw, teeth);
   EXPECT_TRUE(Same(teeth[0].FaceLine, ToothLine{}));
   EXPECT_FALSE(Same(teeth[0].TopLine, ToothLine{}));
   EXPECT_FALSE(Same(teeth[1].FaceLine, ToothLine{}));
@@ -300,7 +307,7 @@ TEST(JoinBand, LeavesTeethWholeThatTheCutDoesNotMeet) {
   Teeth teeth = PlainBand(2, 1.75);
   for (ToothProfile& tooth : teeth) tooth.Style = 3;
   const Teeth before = teeth;
-  JoinBand(Kit, saw, teeth, 2);
+  CutEnds(saw, teeth);
   for (std::size_t i = 0; i < 3; ++i) {
     SCOPED_TRACE(i);
     ForEachPiece(teeth[i], before[i],
@@ -314,7 +321,7 @@ TEST(JoinBand, RoundsTheJoinPointsButNotTheCut) {
   BandSaw saw;
   Teeth teeth = PlainBand(1, 1.7500019);
   for (ToothProfile& tooth : teeth) tooth.Style = 3;
-  JoinBand(Kit, saw, teeth, 1);
+  CutEnds(saw, teeth);
   EXPECT_TRUE(At(teeth[0].JoinPoint, {0.875, 5}));
   EXPECT_TRUE(At(teeth[1].JoinPoint, {2.625, 5}));
 }

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "geometry/modOneTooth.h"
@@ -439,6 +440,28 @@ TEST(CalculateSaw, GivesTheSameWhenItIsCalculatedAgain) {
   const BandSaw once = saw;
   Calculate(saw);
   EXPECT_TRUE(SameSaw(once, saw));
+}
+
+TEST(CalculateSaw, LeavesNothingOfAListThatIsUsedAgain) {
+  test::CollectedMessages say;
+  BandSaw band = PlainDesign();
+  const EntityList fresh = CalculateSaw(band, {}, say);
+  EntityList used;
+  used.Header.MaxX = 7;
+  used.Entities.assign(5000, CircleEntity{});
+  used.Repetitions = {{0, 1, 5000}};
+  used.Lost = 3;
+  used = CalculateSaw(band, {}, say, std::move(used));
+  EXPECT_EQ(used.Count(), fresh.Count());
+  EXPECT_EQ(used.Header.MaxX, fresh.Header.MaxX);
+  ASSERT_EQ(used.Repetitions.size(), 1U);
+  EXPECT_EQ(used.Repetitions[0].Size, fresh.Repetitions.at(0).Size);
+  EXPECT_EQ(used.Repetitions[0].Times, 119U) << "all teeth but the two that the join cuts";
+
+  band.GulletInfo.Radius = 0;
+  used = CalculateSaw(band, {}, say, std::move(used));
+  EXPECT_EQ(used.Count(), 0U);
+  EXPECT_EQ(used.Header.MaxX, 0);
 }
 
 }  // namespace

@@ -281,12 +281,11 @@ TEST(GapOfTheOutline, OpensBehindAShortPitchWhoseTipTheBackPasses) {
   saw.GeneralInfo.VarPitch = {1.5, 2.25, 2.25};
   const PlaneKit kit(5);
   test::CollectedMessages say;
-  Teeth teeth{ToothOf(saw)};
-  LayOutVariableBand(kit, saw, teeth, {}, say);
-  const Gap gap = WidestGap(test::WalkOf(teeth[1]));
+  const BandTeeth teeth = LayOutVariableBand(kit, saw, ToothOf(saw), {}, say);
+  const Gap gap = WidestGap(test::WalkOf(teeth.Tooth(1)));
   EXPECT_EQ(gap.Where, "BackLine to TopLine");
   EXPECT_NEAR(gap.Size, 0.5, 1e-4) << "the top has moved with its tip, the back has not";
-  EXPECT_LE(WidestGap(test::WalkOf(teeth[2])).Size, 1e-4) << "a long pitch opens nothing";
+  EXPECT_LE(WidestGap(test::WalkOf(teeth.Tooth(2))).Size, 1e-4) << "a long pitch opens nothing";
 }
 
 // A tooth that leans back by a degree may be five radii shallower than its arc lies: the circle then misses

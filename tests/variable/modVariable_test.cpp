@@ -10,6 +10,7 @@
 #include "geometry/modOneTooth.h"
 #include "geometry/modPitch.h"
 #include "geometry/modTooth.h"
+#include "support/AllTeeth.h"
 #include "support/Outline.h"
 #include "support/Pieces.h"
 #include "support/Shapes.h"
@@ -18,6 +19,7 @@
 namespace tarnwick {
 namespace {
 
+using test::AllOf;
 using test::Near;
 using test::Same;
 using test::Workbench;
@@ -62,7 +64,6 @@ struct Layout : Workbench {
     Settings.TeethDirection = direction;
     if (Saw.NumTeeth > 0) Saw.Pitch = PitchFromLength(Kit, Saw.Length, Saw.NumTeeth);
     CalculateTooth(Work);
-    Placed.push_back(Tooth);
   }
 
   CalculationSettings Settings;
@@ -71,13 +72,13 @@ struct Layout : Workbench {
 
 struct WholeBand : Layout {
   explicit WholeBand(const BandSaw& saw, std::int16_t direction = 1) : Layout(saw, direction) {
-    LayOutVariableBand(Kit, Saw, Placed, Settings, Say);
+    Placed = AllOf(LayOutVariableBand(Kit, Saw, Tooth, Settings, Say));
   }
 };
 
 struct OneSegment : Layout {
   explicit OneSegment(const BandSaw& saw, std::int16_t direction = 1) : Layout(saw, direction) {
-    LayOutVariableSegment(Kit, Saw, Placed, Settings, Say);
+    Placed = AllOf(LayOutVariableSegment(Kit, Saw, Tooth, Settings, Say));
   }
 };
 
@@ -183,7 +184,7 @@ TEST(VariableBand, OfEqualPitchesIsAPlainBand) {
   saw.DesignInfo.VarArea = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
   const WholeBand band(saw);
   Layout plain(saw);
-  LayOutBand(plain.Kit, plain.Saw, plain.Placed, plain.Settings);
+  plain.Placed = AllOf(LayOutBand(plain.Kit, plain.Saw, plain.Tooth, plain.Settings));
   ASSERT_EQ(band.Placed.size(), plain.Placed.size());
   for (std::size_t i = 0; i < plain.Placed.size(); ++i) {
     test::ForEachPiece(plain.Placed[i], band.Placed[i],
@@ -246,7 +247,7 @@ TEST(VariableDepth, TouchesNoFigureOfTheBaseTooth) {
   saw.GeneralInfo.VarDepth = {0.6, 0.7, 0.8, 0.9};
   Layout band(saw);
   const BandSaw before = band.Saw;
-  LayOutVariableBand(band.Kit, band.Saw, band.Placed, band.Settings, band.Say);
+  EXPECT_EQ(LayOutVariableBand(band.Kit, band.Saw, band.Tooth, band.Settings, band.Say).Size(), 9U);
   EXPECT_EQ(band.Saw.GulletInfo.Area, before.GulletInfo.Area);
   EXPECT_EQ(band.Saw.GulletInfo.AreaBelowTip, before.GulletInfo.AreaBelowTip);
   EXPECT_EQ(band.Saw.GulletInfo.Depth, before.GulletInfo.Depth);
@@ -396,8 +397,9 @@ TEST_P(SegmentOf, AloneTurnsAround) {
 }
 
 TEST(BuildSegmentEntities, DrawsPiecesOnceWithoutNotchOutlineAndHeader) {
+  const PlaneKit kit(5);
   const ToothProfile tooth = test::FullTooth();
-  const EntityList list = BuildSegmentEntities(PlaneKit(5), {tooth, tooth, tooth}, 2);
+  const EntityList list = BuildSegmentEntities(kit, BandTeeth(kit, {tooth, tooth, tooth}), 2);
   ASSERT_EQ(list.Entities.size(), 2U * 11U) << "of as many teeth as asked for";
   EXPECT_EQ(list.Header.MaxX, 0);
   EXPECT_EQ(list.Header.MaxY, 0);
@@ -464,7 +466,7 @@ TEST(CalculateSegment, AsksAFrostToothForThePlainRadius) {
 class StyleWithoutABack : public testing::TestWithParam<std::int16_t> {};
 
 TEST_P(StyleWithoutABack, LosesItsSegmentInBandAndPicture) {
-  for (const auto calculate : {CalculateSaw, CalculateSegment}) {
+  for (const bool segment : {false, true}) {
     BandSaw saw = VariableDesign(4, 3, GetParam());
     saw.GulletInfo.Radius1 = 0.25;
     saw.GeneralInfo.VariableDepth = True;
@@ -472,7 +474,7 @@ TEST_P(StyleWithoutABack, LosesItsSegmentInBandAndPicture) {
     saw.DesignInfo.SegmentLength = 8;
     saw.DesignInfo.VarPattern = 2;
     test::CollectedMessages say;
-    const EntityList list = calculate(saw, {}, say);
+    const EntityList list = segment ? CalculateSegment(saw, {}, say) : CalculateSaw(saw, {}, say);
     EXPECT_EQ(saw.GeneralInfo.VariablePitch, False);
     EXPECT_EQ(saw.GeneralInfo.VariableDepth, False);
     EXPECT_EQ(saw.GeneralInfo.NumVariables, 0);
