@@ -80,12 +80,8 @@ inline double BandTeeth::MovedX(const ToothPlace& place, double x) const {
     round.Store(turned, turned + back_);
     moved = turned;
   }
-  if (place.OtherEdge) {  // lowered, then mirrored: neither changes X, each rounds it
-    double lowered = 0, mirrored = 0;
-    round.Store(lowered, moved);
-    round.Store(mirrored, lowered);
-    moved = mirrored;
-  }
+  // Lowered, then mirrored: neither changes X, each rounds it.
+  if (place.OtherEdge) moved = round.Again(round.Again(moved));
   return moved;
 }
 

@@ -25,23 +25,24 @@ class ToothStamp {
   unsigned Add(PieceList& list, const BandTeeth& teeth, const ToothPlace& place) const;
 
   /// The largest X of the shape, without its sign.
-  [[nodiscard]] double Reach() const { return reach_; }
+  [[nodiscard]] double Reach() const;
 
  private:
   struct Line {
-    double ShapeX1, ShapeX2;
-    ToothLine Made;
+    std::size_t FromX, ToX;  // which of the X
+    double FromY, ToY;
   };
   struct Arc {
-    double ShapeX;
+    std::size_t CenterX;
     ToothArc Made;
   };
 
   void Take(const ToothLine& shape, const ToothLine& made);
   void Take(const ToothArc& shape, const ToothArc& made);
+  std::size_t Note(double x);
 
+  std::vector<double> shapeX_;  // every X of the shape once: pieces that meet have it in common
   std::vector<std::variant<Line, Arc>> pieces_;
-  double reach_ = 0;
 };
 
 }  // namespace tarnwick

@@ -51,6 +51,14 @@ class Rounding {
     return value.Ok() ? Checked((*this)(value.OrZero())) : value;
   }
 
+  /// (*this)(rounded) for a number that this rule has made already: k of the last place, a whole number. From
+  /// 0 up it stays what it is, as k and the twentieth are k again when they are cut; which holds as long as
+  /// the twentieth is more than the last bits of k, that is up to 2^46.
+  [[nodiscard]] double Again(double rounded) const noexcept {
+    constexpr double sureUpTo = 70368744177664.0;
+    return rounded >= 0 && rounded * scale_ < sureUpTo ? rounded : (*this)(rounded);
+  }
+
   /// One of the last place.
   [[nodiscard]] double Unit() const noexcept { return 1 / scale_; }
 

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "geometry/modTrig.h"
+#include "window/modGroupReach.h"
 #include "window/modPieceBox.h"
 
 namespace tarnwick {
@@ -54,7 +55,14 @@ struct Bundle {
   int Pieces{};
   Piece First;  // a lone piece is drawn as it is
 
-  [[nodiscard]] bool Holds(const PixelBox& box) const { return box.Left >= Column && box.Right < Column + 1; }
+  /// A piece of less than a pixel belongs to the column of its middle.
+  [[nodiscard]] static bool IsDot(const PixelBox& box) { return box.Width() < 1 && box.Height() < 1; }
+  [[nodiscard]] static double ColumnOf(const PixelBox& box) {
+    return std::floor(IsDot(box) ? (box.Left + box.Right) / 2 : box.Left);
+  }
+  [[nodiscard]] bool Holds(const PixelBox& box) const {
+    return ColumnOf(box) == Column && (IsDot(box) || box.Right < Column + 1);
+  }
   [[nodiscard]] bool Takes(const PixelBox& box) const {
     return Pieces > 0 && Holds(box) && box.Top <= Box.Bottom + 1 && box.Bottom >= Box.Top - 1;
   }
@@ -73,11 +81,20 @@ class Drawing {
 
   void DrawEntities(const EntityList& list) {
     canvas_.SetPen(inks_.Lines, PenStyle::Solid);
-    for (const Entity& entity : list.Entities) std::visit([this](const auto& kind) { Draw(kind); }, entity);
+    std::size_t next = 0;
+    for (const Repetition& part : list.Repetitions) {
+      DrawRange(list, next, part.First);
+      DrawRepetition(list, part);
+      next = part.End();
+    }
+    DrawRange(list, next, list.Entities.size());
     DrawBundle();
   }
 
  private:
+  void DrawRange(const EntityList& list, std::size_t from, std::size_t end);
+  void DrawRepetition(const EntityList& list, const Repetition& part);
+
   void Draw(const LineEntity& line) { line.IsOutline ? DrawOutline(line) : DrawLine(line); }
   void Draw(const ArcEntity& arc) { DrawArc(arc); }
   void Draw(const CircleEntity& circle) { DrawCircle(circle); }
@@ -107,6 +124,26 @@ class Drawing {
   const PixelBox window_;
   Bundle bundle_;
 };
+
+void Drawing::DrawRange(const EntityList& list, std::size_t from, std::size_t end) {
+  for (std::size_t i = from; i < end; ++i) {
+    std::visit([this](const auto& kind) { Draw(kind); }, list.Entities[i]);
+  }
+}
+
+/// Passes over the groups that lie off the surface, and over those that add nothing: where a whole group went
+/// into the bundle of its column, the last group of the column completes it.
+void Drawing::DrawRepetition(const EntityList& list, const Repetition& part) {
+  const GroupReach reach(list, part, mapping_);
+  const std::size_t end = reach.FirstBeyond(window_.Right);
+  for (std::size_t group = reach.FirstReaching(window_.Left); group < end; ++group) {
+    const int before = bundle_.Pieces;
+    DrawRange(list, part.Group(group), part.Group(group + 1));
+    if (bundle_.Pieces - before != static_cast<int>(part.Size)) continue;
+    const std::size_t next = reach.FirstReaching(bundle_.Column + 1, group + 1);
+    if (next > group + 2) group = next - 2;
+  }
+}
 
 bool Finite(Spot spot) { return std::isfinite(spot.X) && std::isfinite(spot.Y); }
 
@@ -167,7 +204,7 @@ void Drawing::DrawText(const TextEntity& text) {
 bool Drawing::Bundled(const PixelBox& box, Piece piece) {
   if (detail_ == Detail::EveryPiece) return false;
   if (!bundle_.Takes(box)) {
-    const Bundle next{std::floor(box.Left), box, 0, piece};
+    const Bundle next{Bundle::ColumnOf(box), box, 0, piece};
     if (!next.Holds(box)) return false;
     DrawBundle();
     bundle_ = next;

@@ -73,6 +73,25 @@ TEST(RoundTo, LeavesARoundedPositiveNumberAsItIs) {
   }
 }
 
+TEST(Rounding, RoundsARoundedNumberAgainAsAnyOther) {
+  for (int places = 0; places <= 10; ++places) {
+    const Rounding round(places);
+    for (const double value : {0.0, 0.1, 1.0, 1.75182, 12.345678901, 99999.99999, 7036.8744177663,
+                               7036.8744177664, 56000.123456789, 1e9 / 3, 1e15 / 7, 1e17 / 3, 1e300}) {
+      for (const double rounded : {round(value), round(-value)}) {
+        EXPECT_EQ(round.Again(rounded), round(rounded)) << rounded << " at " << places;
+      }
+    }
+    double walk = -1000;
+    for (int i = 0; i < 20000; ++i) {
+      walk += 0.1234567891234;
+      ASSERT_EQ(round.Again(round(walk)), round(round(walk))) << walk << " at " << places;
+    }
+  }
+}
+
+TEST(Rounding, KnowsItsUnit) { EXPECT_EQ(Rounding(5).Unit(), 0.00001); }
+
 TEST(Rounding, LeavesAFailedExpressionFailed) {
   const Checked failed = Rounding(5)(Quotient(1, 0));
   EXPECT_EQ(failed.Why(), Failure::DivisionByZero);
