@@ -1,7 +1,5 @@
 #include "dxf/modDXF.h"
 
-#include <algorithm>
-
 #include "dxf/modDxfPairs.h"
 #include "platform/Messages.h"
 #include "store/modFiles.h"
@@ -159,12 +157,6 @@ bool WriteDxf(const EntityList& list, const std::filesystem::path& fileName,
     return false;
   }
   return true;
-}
-
-bool NamesDxf(const std::string& path) {
-  const auto sameLetter = [](char a, char b) { return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == b; };
-  return std::search(path.begin(), path.end(), DxfExtension.begin(), DxfExtension.end(), sameLetter) !=
-         path.end();
 }
 
 }  // namespace tarnwick

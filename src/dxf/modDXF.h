@@ -37,7 +37,4 @@ bool WriteDxf(const EntityList& list, const std::filesystem::path& fileName,
 
 inline constexpr std::string_view DxfExtension = ".dxf";
 
-/// Whether a path needs no ending: ".dxf" stands anywhere in it, in any case.
-[[nodiscard]] bool NamesDxf(const std::string& path);
-
 }  // namespace tarnwick

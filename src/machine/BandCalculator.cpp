@@ -2,12 +2,11 @@
 
 #include <optional>
 #include <string_view>
-#include <system_error>
 
 #include "dxf/modDXF.h"
 #include "machine/modMachineDraw.h"
 #include "shell/SavePath.h"
-#include "shell/modFailure.h"
+#include "shell/TellFailures.h"
 #include "store/modPath.h"
 
 namespace tarnwick {
@@ -84,19 +83,22 @@ void BandCalculator::TickLength(int row) {
   saw_.MachineInfo.InCenterOut = static_cast<std::int16_t>(row);
 }
 
-void BandCalculator::PressExportDxf() try {
-  const std::optional<std::string> path = AskSavePath(program_.Out.Files, program_.Out.Say,
-                                                      {.Filter = std::string(DxfFilter),
-                                                       .Folder = program_.Design.SawDir(),
-                                                       .Name = "untitled.dxf",
-                                                       .WarnBeforeReplacing = true},
-                                                      DxfExtension, NamesDxf);
+void BandCalculator::PressExportDxf() {
+  // In the words of the main window's export, its name included.
+  TellFailures(program_.Out.Say, "Saving", "mnuItemExport", [this] { ExportDrawing(); });
+}
+
+void BandCalculator::ExportDrawing() {
+  const std::optional<std::string> path = AskExportPath(program_.Out.Files, program_.Out.Say,
+                                                        {.Filter = std::string(DxfFilter),
+                                                         .Folder = program_.Design.SawDir(),
+                                                         .Name = "untitled.dxf",
+                                                         .WarnBeforeReplacing = true},
+                                                        DxfExtension);
   if (!path) return;
   const Busy busy(windows_);
   const EntityList merged = MergedLists(view_, Settings().MemorySize, program_.Out.Say);
   WriteDxf(merged, FilePath(*path), Settings(), program_.Out.Say);
-} catch (const std::system_error& failure) {
-  program_.Out.Say.Show(FailureBox("Saving", failure.code(), "mnuItemExport"));  // the main window's name
 }
 
 void BandCalculator::SetMachineVariables() {

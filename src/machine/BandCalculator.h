@@ -74,6 +74,7 @@ class BandCalculator {
   void ShowOwnLength();
   void ShowLengths();
   void WorkOut();
+  void ExportDrawing();
 
   Program& program_;
   DialogHost& dialogs_;

@@ -38,8 +38,6 @@ Box TilingQuestion(int sheets) {
           .Default = Button::Yes};
 }
 
-bool HoldsPdf(const std::string& path) { return HoldsEnding(path, PdfEnding); }
-
 /// The notice of a job: gone when that is over, whatever came of it.
 class Notice {
  public:
@@ -221,12 +219,12 @@ void PrintCommands::PrintCalculations(const PowerCalculator& calculator) {
 // ---- a file
 
 void PrintCommands::ExportPdf() {
-  const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, Say(),
-                                                      {.Filter = std::string(PdfFilter),
-                                                       .Folder = Design().SawDir(),
-                                                       .Name = ExportName(Design().FileName, PdfEnding),
-                                                       .WarnBeforeReplacing = true},
-                                                      PdfEnding, HoldsPdf);
+  const std::optional<std::string> path = AskExportPath(desk_.Process.Out.Files, Say(),
+                                                        {.Filter = std::string(PdfFilter),
+                                                         .Folder = Design().SawDir(),
+                                                         .Name = ExportName(Design().FileName, PdfEnding),
+                                                         .WarnBeforeReplacing = true},
+                                                        PdfEnding);
   if (!path) return;
   const std::unique_ptr<PrintDevice> file = desk_.Files.File(*path);
   const Sheets sheets(desk_.Process, Sheets::Of::SawAndSegment);

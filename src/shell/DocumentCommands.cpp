@@ -6,6 +6,7 @@
 #include "entry/StepByStep.h"
 #include "print/modText.h"
 #include "shell/SavePath.h"
+#include "shell/TellFailures.h"
 #include "shell/modFailure.h"
 #include "store/modFiles.h"
 #include "store/modPath.h"
@@ -53,9 +54,6 @@ std::size_t TitleStart(const std::string& path) {
 
 /// Anywhere in the path.
 bool HoldsExtension(const std::string& path) { return Contains(path, Extension); }
-
-/// The same in any case.
-bool HoldsDxf(const std::string& path) { return HoldsEnding(path, ".dxf"); }
 
 bool HasExtension(const std::string& path) { return Contains(path.substr(TitleStart(path)), "."); }
 
@@ -322,12 +320,16 @@ bool DocumentCommands::MayClose() {
 
 void DocumentCommands::ExportDxf() {
   if (busy_) return;
-  const std::optional<std::string> path = AskSavePath(desk_.Process.Out.Files, desk_.Process.Out.Say,
-                                                      {.Filter = std::string(DxfFilter),
-                                                       .Folder = Design().SawDir(),
-                                                       .Name = ExportName(Design().FileName, ".dxf"),
-                                                       .WarnBeforeReplacing = true},
-                                                      ".dxf", HoldsDxf);
+  TellFailures(desk_.Process.Out.Say, "Saving", "mnuItemExport", [this] { ExportDrawing(); });
+}
+
+void DocumentCommands::ExportDrawing() {
+  const std::optional<std::string> path = AskExportPath(desk_.Process.Out.Files, desk_.Process.Out.Say,
+                                                        {.Filter = std::string(DxfFilter),
+                                                         .Folder = Design().SawDir(),
+                                                         .Name = ExportName(Design().FileName, DxfExtension),
+                                                         .WarnBeforeReplacing = true},
+                                                        DxfExtension);
   if (!path) return;
   {
     const Work work(*this);

@@ -87,6 +87,7 @@ class DocumentCommands {
   bool TakeSaveName(bool warn);
   [[nodiscard]] bool MayReplace(const std::string& path) const;
   bool Write(std::string_view procedure);
+  void ExportDrawing();
   void TellFailure(std::error_code failure, std::string_view procedure) const;
   void Recalculate();
 

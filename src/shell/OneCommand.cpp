@@ -1,16 +1,8 @@
 #include "shell/OneCommand.h"
 
-#include <new>
-#include <system_error>
-
-#include "shell/modFailure.h"
+#include "shell/TellFailures.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr std::string_view Activity = "Error";
-
-}  // namespace
 
 void OneCommand::Run(std::string_view procedure, const std::function<void()>& command) {
   if (running_) return;
@@ -22,13 +14,7 @@ void OneCommand::Run(std::string_view procedure, const std::function<void()>& co
     bool& Running;
   };
   const Turn turn(running_);
-  try {
-    command();
-  } catch (const std::bad_alloc&) {
-    say_.Show(FailureBox(Activity, std::make_error_code(std::errc::not_enough_memory), procedure));
-  } catch (const std::system_error& failure) {
-    say_.Show(FailureBox(Activity, failure.code(), procedure));
-  }
+  TellFailures(say_, "Error", procedure, command);
 }
 
 }  // namespace tarnwick

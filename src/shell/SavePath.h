@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,15 +17,17 @@ namespace tarnwick {
 /// @return nullopt when the user thinks better of it
 [[nodiscard]] std::optional<std::string> AskSavePath(FileDialogs& files, Messages& say,
                                                      const FileQuestion& question, std::string_view extension,
-                                                     bool (*isWhole)(const std::string&));
+                                                     const std::function<bool(const std::string&)>& isWhole);
+
+/// The same for an export: a path that holds the ending anywhere, in any case, needs no other.
+/// @param ending  with its point, in lower case
+[[nodiscard]] std::optional<std::string> AskExportPath(FileDialogs& files, Messages& say,
+                                                       const FileQuestion& question, std::string_view ending);
 
 /// The name that the dialog of an export opens on: the design's, up to its first point, with the ending of
 /// the export.
 /// @param extension  with its point
 [[nodiscard]] std::string ExportName(const std::string& fileName, std::string_view extension);
-
-/// Whether a path holds the ending, in any case.
-[[nodiscard]] bool HoldsEnding(std::string_view path, std::string_view lowerCaseEnding);
 
 /// "This file already exists."
 [[nodiscard]] Box ReplaceQuestion(const std::string& path);

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "store/modPath.h"
+#include "support/BrokenFileDialogs.h"
 #include "support/Machines.h"
 #include "support/RecordingCanvas.h"
 #include "support/ScriptedDialogHost.h"
@@ -493,30 +494,16 @@ TEST_F(CalculatorExport, TakesTheColourOfDrawingFiles) {
   EXPECT_NE(Export("mill.dxf").find(" 62 \r\n3\r\n"), std::string::npos);
 }
 
-/// A desktop whose dialogs do not come up.
-class BrokenFileDialogs final : public FileDialogs {
- public:
-  std::optional<std::string> AskOpen(const FileQuestion&) override { return Fail(); }
-  std::optional<std::string> AskSave(const FileQuestion&) override { return Fail(); }
-
- private:
-  static std::optional<std::string> Fail() {
-    throw std::system_error(std::make_error_code(std::errc::io_error));
-  }
-};
-
 TEST_F(CalculatorExport, TellsOfAnyOtherFailureInTheMainWindowsWords) {
-  BrokenFileDialogs broken;
+  test::BrokenFileDialogs broken;
   Surroundings out{program_.Say,  program_.Time, program_.Store, program_.Colors,
                    program_.Help, broken,        program_.Bin};
   Program process(out);
   BandCalculator calculator(process, dialogs_, windows_);
   calculator.PressExportDxf();
   ASSERT_EQ(program_.Say.Shown.size(), 1U);
-  const std::error_code why = std::make_error_code(std::errc::io_error);
   EXPECT_EQ(program_.Say.Shown[0].Title, "Saving");
-  EXPECT_EQ(program_.Say.Shown[0].Text, "Error Number: " + std::to_string(why.value()) + "\n" +
-                                            why.message() + "\nSub Program mnuItemExport");
+  EXPECT_EQ(program_.Say.Shown[0].Text, broken.Told("mnuItemExport"));
 }
 
 // ---- hints

@@ -6,6 +6,7 @@
 
 #include "store/modPath.h"
 #include "store/modSave.h"
+#include "support/BrokenFileDialogs.h"
 #include "support/Designs.h"
 #include "support/ScriptedDialogHost.h"
 #include "support/TestProgram.h"
@@ -522,6 +523,17 @@ TEST_F(Document, SaysWhenTheDrawingIsTooLarge) {
   commands_.ExportDxf();
   EXPECT_EQ(program_.Say.Texts(), Texts{"File is two large"});
   EXPECT_FALSE(fs::exists(Path("head.dxf")));
+}
+
+TEST_F(Document, TellsOfAnyOtherFailureOfTheExport) {
+  test::BrokenFileDialogs broken;
+  Program process(
+      {program_.Say, program_.Time, program_.Store, program_.Colors, program_.Help, broken, program_.Bin});
+  DocumentCommands({process, dialogs_, window_, window_}).ExportDxf();
+  ASSERT_EQ(program_.Say.Shown.size(), 1u);
+  EXPECT_EQ(LastBox().Title, "Saving");
+  EXPECT_EQ(LastBox().Text, broken.Told("mnuItemExport"));
+  EXPECT_TRUE(window_.Log.empty());
 }
 
 TEST_F(Document, WritesTheListingAsText) {
