@@ -1,6 +1,8 @@
 #include "machine/modMachineDraw.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "model/modDecim.h"
 #include "platform/CollectedMessages.h"
@@ -9,10 +11,12 @@
 namespace tarnwick {
 namespace {
 
-/// A surface whose texts stand on a patch of the background.
+/// A surface whose texts stand on a patch of the background, left of the machine.
 class PatchedCanvas final : public Canvas {
  public:
-  PatchedCanvas(Canvas& canvas, Colour background) : canvas_(canvas), background_(background) {}
+  /// @param machine  where the machine begins, in pixels from the left
+  PatchedCanvas(Canvas& canvas, Colour background, double machine)
+      : canvas_(canvas), background_(background), machine_(machine) {}
 
   [[nodiscard]] PixelSize Size() const override { return canvas_.Size(); }
   void Clear(Colour background) override { canvas_.Clear(background); }
@@ -27,9 +31,11 @@ class PatchedCanvas final : public Canvas {
   }
   void Polygon(std::span<const Spot> points) override { canvas_.Polygon(points); }
   [[nodiscard]] PixelSize TextSize(std::string_view text) const override { return canvas_.TextSize(text); }
+  /// On a slender machine the text would run through the band: it gives way, as far as the surface goes.
   void Text(Spot topLeft, std::string_view text) override {
-    constexpr double Edge = 3;  // pixels at either side of the text
+    constexpr double Edge = 3;  // pixels at either side of the text, and of its patch
     const auto [width, height] = TextSize(text);
+    topLeft.X = std::max(2 * Edge, std::min(topLeft.X, std::floor(machine_ - width - 2 * Edge)));
     const double left = topLeft.X - Edge, right = topLeft.X + width + Edge;
     canvas_.SetPen(background_, PenStyle::Solid);
     canvas_.Polygon(std::array<Spot, 4>{
@@ -41,6 +47,7 @@ class PatchedCanvas final : public Canvas {
  private:
   Canvas& canvas_;
   Colour background_;
+  double machine_;
   Colour colour_;
   PenStyle style_ = PenStyle::Solid;
 };
@@ -61,7 +68,8 @@ void DrawMachine(const MachineView& view, MachineZoom& zoom, Canvas& canvas, con
   const Mapping mapping{.PixelsPerUnit = zoom.Scale * PixelsPerInch,
                         .OriginX = roundTo(width / 2 - zoom.Box.CenterX * zoom.Scale) * PixelsPerInch,
                         .OriginY = roundTo(height * 0.97 - lowerRadius * zoom.Scale) * PixelsPerInch};
-  PatchedCanvas patched(canvas, colours.BackGroundColor);
+  const double machine = mapping.ToSurface(ComputeExtents(view.Wheels).MinX, 0).X;
+  PatchedCanvas patched(canvas, colours.BackGroundColor, machine);
   const Inks inks{.Lines = colours.SawLineColor, .Texts = colours.TextColor};
   for (const EntityList* list : {&view.Wheels, &view.Dimension}) {
     DrawEntities(*list, mapping, patched, inks, Detail::EveryPiece);

@@ -79,13 +79,15 @@ TEST_F(MachineDrawing, StandsInTheMiddleAboveTheBottomEdge) {
 }
 
 TEST_F(MachineDrawing, LiesWithinItsSurface) {
-  for (double d = 0.5; d <= 15; d += 0.5) {
-    for (const double c : {d, 2 * d, 6 * d}) {
-      Draw(Machine(d, c, 0.1));
-      for (const auto& call : canvas_->Calls) {
-        if (call.What != Kind::Line) continue;
-        for (const Spot& spot : call.Spots) {
-          EXPECT_TRUE(spot.X >= 0 && spot.X <= 700 && spot.Y >= 0 && spot.Y <= 960) << d << ' ' << c;
+  for (const PixelSize size : {PixelSize{700, 960}, {280, 388}}) {
+    for (double d = 0.5; d <= 15; d += 0.5) {
+      for (const double c : {d, 2 * d, 6 * d}) {
+        Draw(Machine(d, c, 0.1), size);
+        for (const auto& call : canvas_->Calls) {
+          for (const Spot& spot : call.Spots) {
+            EXPECT_TRUE(spot.X >= 0 && spot.X <= size.Width && spot.Y >= 0 && spot.Y <= size.Height)
+                << d << ' ' << c << ' ' << size.Width;
+          }
         }
       }
     }
@@ -103,6 +105,21 @@ TEST_F(MachineDrawing, WritesOnAPatchOfTheBackground) {
   EXPECT_LT(patch->Spots[0].X, text->Spots[0].X);
   EXPECT_EQ(patch->Spots[0].Y, text->Spots[0].Y);
   EXPECT_EQ((text + 1)->Ink, colours_.SawLineColor);  // the arrows
+}
+
+TEST_F(MachineDrawing, WritesBesideTheBand) {
+  for (const double times : {1.02, 2.0, 4.0, 6.0}) {
+    Draw(Machine(5, 5 * times, 0.05), {440, 560});
+    const auto text = std::find_if(canvas_->Calls.begin(), canvas_->Calls.end(),
+                                   [](const auto& call) { return call.What == Kind::Text; });
+    const double left = text->Spots[0].X, right = left + canvas_->TextSize(text->Words).Width;
+    const double band = First(Kind::Arc).Spots[0].X - 0.05 * zoom_.Scale * 96;
+    EXPECT_LT(right + 3, band) << times;  // with its patch
+    const auto line = text - 2;           // of the dimension; the patch lies between
+    ASSERT_EQ(line->What, Kind::Line);
+    EXPECT_GT(line->Spots[0].X, left) << times;
+    EXPECT_LT(line->Spots[0].X, right) << times;
+  }
 }
 
 TEST_F(MachineDrawing, FollowsTheSizeOfTheSurface) {

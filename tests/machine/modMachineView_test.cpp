@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "dxf/modDXF.h"
 #include "machine/modWheel.h"
 #include "support/CollectedMessages.h"
 #include "support/Machines.h"
@@ -168,6 +169,19 @@ TEST_F(MachineLists, WriteTheDistanceInTheUnitsInUse) {
   Build(Machine(5, 10));
   EXPECT_EQ(OfDimension<TextEntity>(4).Text.Trimmed(), "3.05 m");
   ExpectLine(OfDimension<LineEntity>(1), -1, 120, -51, 120);  // the drawing stays in inches
+}
+
+TEST_F(MachineLists, LeaveTheRimOutOfAccount) {
+  const auto drawing = [this] {
+    return DxfText(MergedLists(view_, MemorySizeRange.Least, say_), {}).value();
+  };
+  BandSaw saw = Machine(5, 10, 0.05);
+  Build(saw);
+  const std::string before = drawing();
+  saw.MachineInfo.Width = 12;
+  Build(saw);
+  EXPECT_EQ(drawing(), before);
+  EXPECT_EQ(saw_.MachineInfo.Width, 12);
 }
 
 TEST_F(MachineLists, HaveNoHeader) {
