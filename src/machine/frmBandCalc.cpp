@@ -175,15 +175,9 @@ QVBoxLayout* frmBandCalc::MakeFoot() {
 }
 
 QHBoxLayout* frmBandCalc::MakeButtons() {
-  const auto make = [this](const char* name, const QString& caption) {
-    auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setAccessibleName(QString(caption).remove('&'));
-    return button;
-  };
-  QPushButton* cmdExportDxf = make("cmdExportDxf", tr("&Export to Dxf..."));
-  QPushButton* cmdOk = make("cmdOk", tr("&OK"));
-  QPushButton* cmdCancel = make("cmdCancel", tr("&Cancel"));
+  QPushButton* cmdExportDxf = MakeButton("cmdExportDxf", tr("&Export to Dxf..."));
+  QPushButton* cmdOk = MakeButton("cmdOk", tr("&OK"));
+  QPushButton* cmdCancel = MakeButton("cmdCancel", tr("&Cancel"));
   cmdOk->setDefault(true);
   connect(cmdExportDxf, &QPushButton::clicked, this, [this] {
     calculator_.PressExportDxf();

@@ -47,9 +47,7 @@ QString SpokenTable(const DisplayFormat& format) {
 frmGauge::frmGauge(const DisplayFormat& format, HelpViewer& help, QWidget* parent)
     : FormWindow("frmGauge", tr("Plate Gauge"), Topic, help, parent), format_(format) {
   MakeTable();
-  auto* cmdOk = new QPushButton(tr("&OK"), this);
-  cmdOk->setObjectName("cmdOk");
-  cmdOk->setAccessibleName(tr("OK"));
+  QPushButton* cmdOk = MakeButton("cmdOk", tr("&OK"));
   cmdOk->setDefault(true);
   connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
 
