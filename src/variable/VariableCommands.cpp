@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/Clock.h"
 #include "variable/modVariable.h"
 #include "window/KeptChanges.h"
 
@@ -94,6 +95,7 @@ void VariableCommands::Fill() {
 
 void VariableCommands::PressVariableOk() {
   OpenDesign& design = program_.Design;
+  Pause(program_.Out.Time);
   view_.ShowPanel(Panel::Main);
   design.SawEdit = design.Saw;
   view_.ShowSawInfo();
@@ -102,6 +104,7 @@ void VariableCommands::PressVariableOk() {
 }
 
 void VariableCommands::PressVariableCancel() {
+  Pause(program_.Out.Time);
   view_.ShowPanel(Panel::Main);
   Restore();
   view_.ShowSawInfo();
@@ -110,6 +113,7 @@ void VariableCommands::PressVariableCancel() {
 // ---- the controls
 
 void VariableCommands::PressVariableReset() {
+  Pause(program_.Out.Time);
   editor_.PressReset();
   view_.FillBoxes();
 }
@@ -139,7 +143,7 @@ void VariableCommands::ClickDepth(int k) {
   view_.FillBoxes();
 }
 
-// ---- emptied
+// ---- following the design
 
 void VariableCommands::ResetVariable() {
   editor_.ResetVariable();
@@ -147,9 +151,12 @@ void VariableCommands::ResetVariable() {
 }
 
 void VariableCommands::FollowDesign() {
+  if (!editor_.IsFilled) return;
   const BandSaw& saw = program_.Design.Saw;
   const bool never = saw.ToothStyle == NarrowStyle || saw.ToothStyle == OShape;
-  if (editor_.IsFilled && (never || saw.ContainsInfo.Teeth == False)) ResetVariable();
+  if (never || saw.ContainsInfo.Teeth == False) return ResetVariable();
+  const bool isOtherBand = editor_.NumTeeth != saw.NumTeeth || editor_.AveragePitch != saw.Pitch;
+  if (isOtherBand && view_.CurrentPanel() == Panel::Variable) editor_.FillFromRecord();
 }
 
 }  // namespace tarnwick

@@ -33,7 +33,8 @@ class VariableCommands {
   void ResetVariable();
 
   /// To be told of every other state of the design: without teeth, and with Narrow and O teeth, which are
-  /// never variable, the panel is emptied as the record has been.
+  /// never variable, the panel is emptied as the record has been. A panel that shows while its band gets
+  /// another length is filled anew: its averages, limits and counts would be those of the old one.
   void FollowDesign();
 
   /// What the panel shows.

@@ -16,6 +16,7 @@ struct HintRow {
 };
 
 constexpr int Unnumbered = 0;
+constexpr int UseToothShape = 100;
 
 constexpr HintRow Hints[] = {
     {"cboPattern", 47},
@@ -47,6 +48,9 @@ constexpr HintRow Hints[] = {
     {"cmdVariableReset", 69},
 };
 
+/// Figures of the tooth that all are made from.
+constexpr std::string_view ToothFigures[] = {"txtVariableNumTeeth", "txtAverageSpace", "txtAverageDepth"};
+
 constexpr std::string_view Label = "lblToothSpace(", Pitch = "txtToothSpace(", Depth = "txtToothDepth(";
 
 bool Begins(std::string_view control, std::string_view with) {
@@ -66,6 +70,12 @@ std::string_view SegmentHint(std::string_view control) {
                                   [control](const HintRow& row) { return Means(control, row.Control); });
   if (found == std::end(Hints)) return {};
   return found->Number == Unnumbered ? found->Text : NumberedText(found->Number);
+}
+
+std::string_view SegmentMustUse(std::string_view control) {
+  const bool isTooths =
+      std::find(std::begin(ToothFigures), std::end(ToothFigures), control) != std::end(ToothFigures);
+  return isTooths ? NumberedText(UseToothShape) : std::string_view();
 }
 
 int SegmentTopic(std::string_view control) {

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "platform/qt/Caption.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/QtText.h"
@@ -94,6 +95,7 @@ MeasureBox* fraVariable::MakeBox(const QString& name, const QString& spoken, boo
   auto* box = new MeasureBox(Page());
   box->SetOpens(opens);
   Name(box, name, spoken);
+  connect(box, &MeasureBox::Pressed, this, [this, box] { TellOwner(*box); });
   return box;
 }
 
@@ -156,12 +158,10 @@ void fraVariable::AddTooth(QGridLayout* grid, int k) {
                                                   tr("7th Tooth:")};
   const QString& caption = captions[static_cast<std::size_t>(k)];
   ToothRow& row = teeth_[static_cast<std::size_t>(k)];
-  row.Label = new QLabel(caption, Page());
-  row.Label->setObjectName(Indexed("lblToothSpace", k));
-  row.Label->setTextFormat(Qt::PlainText);
-  row.Label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  Watch(row.Label);
   row.Pitch = MakeBox(Indexed("txtToothSpace", k), tr("%1 Pitch").arg(Spoken(caption)), true);
+  row.Label = new BoxCaption(caption, row.Pitch, Page());
+  row.Label->setObjectName(Indexed("lblToothSpace", k));
+  Watch(row.Label);
   row.Depth = MakeBox(Indexed("txtToothDepth", k), tr("%1 Depth").arg(Spoken(caption)), true);
   connect(row.Pitch, &MeasureBox::Pressed, this, [this, k] { emit PitchPressed(k); });
   connect(row.Depth, &MeasureBox::Pressed, this, [this, k] { emit DepthPressed(k); });
@@ -265,6 +265,7 @@ void fraVariable::Show(const VariableValues& values, const DisplayFormat& format
     tooth.Pitch->setVisible(row.Shown);
     tooth.Depth->setVisible(row.Shown);
     tooth.Pitch->SetOpens(row.PitchOpens);
+    tooth.Label->setCursor(tooth.Pitch->cursor());
     tooth.Depth->SetOpens(row.DepthOpens);
     Write(tooth.Pitch, values.PitchText(k, format));
     Write(tooth.Depth, values.DepthText(k, format));
@@ -274,6 +275,11 @@ void fraVariable::Show(const VariableValues& values, const DisplayFormat& format
   Write(txtVariableNumTeeth_, values.NumTeethText());
   Write(txtNumberOfSegments_, values.NumSegmentsText());
   Write(txtSegmentSize_, values.SegmentSizeText(format));
+}
+
+void fraVariable::TellOwner(const QObject& box) {
+  const std::string name = box.objectName().toStdString();
+  if (const auto text = SegmentMustUse(name); !text.empty()) emit Hovered(ToQt(text), SegmentTopic(name));
 }
 
 void fraVariable::TellHover(const QObject* control, bool isOver) {

@@ -49,7 +49,7 @@ class fraVariable final : public PanelFrame {
   void Accepted();
   void Cancelled();
   /// What the control under the mouse, or that Tab has reached, is for, with its help topic; empty and 0:
-  /// none.
+  /// none. A press on a figure of another editor tells which one that is.
   void Hovered(const QString& hint, int topic);
 
  private:
@@ -76,6 +76,7 @@ class fraVariable final : public PanelFrame {
   void Name(QWidget* control, const QString& name, const QString& spoken);
   void ShowEntries(const VariableValues& values);
   void ShowPattern(int pattern);
+  void TellOwner(const QObject& box);
   void TellHover(const QObject* control, bool isOver) override;
 
   QComboBox* cboPattern_ = nullptr;

@@ -141,6 +141,8 @@ class fraVariableTest : public QObject {
   void followsTheUnits();
   void firesNothingWhenShown();
   void tellsThePressOfABox();
+  void tellsThePressOfACaption();
+  void tellsWhoOwnsAFigure();
   void tellsThePatternThatIsClicked();
   void tellsTheEntryThatIsChosen();
   void doesNotTurnTheListByTheWheel();
@@ -327,6 +329,38 @@ void fraVariableTest::tellsThePressOfABox() {
   QCOMPARE(told_, expected);
 }
 
+void fraVariableTest::tellsThePressOfACaption() {
+  QStringList expected;
+  for (int k = 0; k < 5; ++k) {
+    auto* label = Named<QLabel>(*panel_, Indexed("lblToothSpace", k).toUtf8());
+    QTest::mouseClick(label, Qt::LeftButton);
+    QTest::mouseClick(label, Qt::RightButton);
+    expected += Indexed("pitch", k);
+    QCOMPARE(panel_->focusWidget()->objectName(), Indexed("txtToothSpace", k));
+    QCOMPARE(label->cursor().shape(), k < 4 ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  }
+  QCOMPARE(told_, expected);
+}
+
+void fraVariableTest::tellsWhoOwnsAFigure() {
+  for (const char* box : {"txtVariableNumTeeth", "txtAverageSpace", "txtAverageDepth"}) {
+    hint_.clear();
+    QTest::mouseClick(Named<QWidget>(*panel_, box), Qt::LeftButton);
+    QCOMPARE(hint_, QString("To change this value you must use the tooth shape editor."));
+    hint_.clear();
+    QTest::keyClick(Named<QWidget>(*panel_, box), Qt::Key_Return);
+    QCOMPARE(hint_, QString("To change this value you must use the tooth shape editor."));
+  }
+  hint_.clear();
+  QTest::mouseMove(panel_.get(), QPoint(2, panel_->height() - 2));
+  hint_ = "?";
+  for (const char* box : {"txtSegmentSize", "txtNumberOfSegments"}) {
+    QTest::keyClick(Named<QWidget>(*panel_, box), Qt::Key_Space);
+    QCOMPARE(hint_, QString("?"));
+  }
+  QCOMPARE(told_, QStringList());
+}
+
 void fraVariableTest::tellsThePatternThatIsClicked() {
   for (const int index : {1, 0, 3, 2, 2}) {
     Bound::Click(Named<QWidget>(*panel_, Indexed("optPattern", index).toUtf8()));
@@ -387,6 +421,14 @@ void fraVariableTest::tellsTheButtons() {
     QTRY_COMPARE(told_.size(), before + 1);
   }
   QCOMPARE(told_, QStringList({"reset", "print", "ok", "cancel", "reset", "print", "ok", "cancel"}));
+  told_.clear();
+  for (const char* button : {"cmdVariableReset", "cmdVariableOK", "cmdVariableCancel"}) {
+    auto* pressed = Named<QPushButton>(*panel_, button);
+    pressed->setFocus();
+    QTest::keyClick(pressed, Qt::Key_Return);
+    QTest::keyClick(pressed, Qt::Key_Space);
+  }
+  QCOMPARE(told_, QStringList({"reset", "reset", "ok", "ok", "cancel", "cancel"}));
 }
 
 void fraVariableTest::hidesPrintUntilThereIsPrinting() {

@@ -53,6 +53,7 @@ using VariableAsking = VariableCommanding;
 using VariableLeaving = VariableCommanding;
 using VariableControls = VariableCommanding;
 using VariableEmptying = VariableCommanding;
+using VariableFollowing = VariableCommanding;
 
 // ---- opening
 
@@ -211,7 +212,7 @@ TEST_F(VariableLeaving, OkKeepsTheSegment) {
   commands_.ClickPattern(MixedPattern);
   static_cast<void>(view_.Log());
   commands_.PressVariableOk();
-  EXPECT_EQ(view_.Log(), (Told{"ShowPanel 1", "ShowSawInfo", "DrawSaw"}));
+  EXPECT_EQ(view_.Log(), (Told{"Pause", "ShowPanel 1", "ShowSawInfo", "DrawSaw"}));
   EXPECT_TRUE(SameSaw(design_.Saw, design_.SawEdit));
   EXPECT_EQ(design_.SawEdit.GeneralInfo.NumVariables, 3);
   EXPECT_EQ(design_.SawSaved.GeneralInfo.NumVariables, 0);
@@ -244,7 +245,7 @@ TEST_F(VariableLeaving, CancelGoesBackToTheDesignBefore) {
   commands_.TickVarDepth(true);
   static_cast<void>(view_.Log());
   commands_.PressVariableCancel();
-  EXPECT_EQ(view_.Log(), (Told{"ShowPanel 1", "ShowUnits", "DrawSaw", "ShowSawInfo"}));
+  EXPECT_EQ(view_.Log(), (Told{"Pause", "ShowPanel 1", "ShowUnits", "DrawSaw", "ShowSawInfo"}));
   EXPECT_TRUE(SameSaw(design_.Saw, before));
   EXPECT_EQ(design_.Saw.DesignInfo.VarPattern, 0);
 }
@@ -300,7 +301,7 @@ TEST_F(VariableControls, DrawTheBandAndFillTheBoxes) {
   commands_.ClickDepth(0);
   EXPECT_EQ(view_.Log(), (Told{"DrawSaw", "FillBoxes"}));
   commands_.PressVariableReset();
-  EXPECT_EQ(view_.Log(), (Told{"DrawSaw", "DrawSaw", "DrawSaw", "FillBoxes"}));
+  EXPECT_EQ(view_.Log(), (Told{"Pause", "DrawSaw", "DrawSaw", "DrawSaw", "FillBoxes"}));
 }
 
 TEST_F(VariableControls, FillTheBoxesWhereAControlGoesBackByItself) {
@@ -357,6 +358,58 @@ TEST_F(VariableEmptying, DoesNotFollowOtherStyles) {
   commands_.FollowDesign();
   EXPECT_TRUE(commands_.Values().IsFilled);
   EXPECT_EQ(view_.Log(), Told{});
+}
+
+// ---- another length of the band
+
+TEST_F(VariableFollowing, FillsAPanelThatShowsWithTheBandOfTheNewLength) {
+  OpenPanel();
+  commands_.ClickPattern(MixedPattern);
+  design_.Saw.Length = 22.1;
+  design_.Saw.NumTeeth = 0;
+  design_.Recalculate(program_.Say);
+  ASSERT_EQ(design_.Saw.NumTeeth, 133);
+  commands_.FollowDesign();
+  const VariableValues& shown = commands_.Values();
+  EXPECT_EQ(shown.AveragePitch, design_.Saw.Pitch);
+  EXPECT_EQ(shown.NumTeeth, 133);
+  EXPECT_EQ(shown.Entries, (std::vector<std::string>{"None", "7 Teeth"}));
+  EXPECT_EQ(shown.Entry, VariableValues::NoEntry);
+  commands_.ChooseEntry(1);
+  EXPECT_EQ(design_.Saw.DesignInfo.SegmentLength, 7 * design_.Saw.Pitch);
+  EXPECT_EQ(design_.Saw.GeneralInfo.NumVariables, 7);
+}
+
+TEST_F(VariableFollowing, KeepsTheSegmentWhereTheNewBandCanHaveIt) {
+  OpenPanel();
+  commands_.ClickPattern(MixedPattern);
+  design_.Saw.Length = 20.01;
+  design_.Recalculate(program_.Say);
+  ASSERT_EQ(design_.Saw.NumTeeth, 120);
+  commands_.FollowDesign();
+  EXPECT_EQ(commands_.Values().Pattern, MixedPattern);
+  EXPECT_EQ(commands_.Values().SegmentTeeth, 3);
+  EXPECT_EQ(commands_.Values().ToothPitch[0], 1.782);
+  EXPECT_EQ(commands_.Values().SegmentSize, 3 * design_.Saw.Pitch);
+  EXPECT_EQ(design_.Saw.DesignInfo.SegmentLength, 3 * design_.Saw.Pitch);
+}
+
+TEST_F(VariableFollowing, LeavesThePanelAloneWhileItsBandIsTheSame) {
+  OpenPanel();
+  commands_.ChooseEntry(0);
+  commands_.FollowDesign();
+  EXPECT_EQ(commands_.Values().Entry, 0);
+}
+
+TEST_F(VariableFollowing, TouchesNoDesignWhileThePanelIsAway) {
+  OpenPanel();
+  commands_.PressVariableCancel();
+  design_.Saw.NumTeeth = 0;
+  design_.Saw.Length = 30;
+  design_.Recalculate(program_.Say);
+  const BandSaw saw = design_.Saw;
+  commands_.FollowDesign();
+  EXPECT_EQ(ChangedFields(saw, design_.Saw), Names{});
 }
 
 }  // namespace

@@ -55,6 +55,17 @@ TEST(SegmentHints, AreEmptyForAllElse) {
   }
 }
 
+TEST(SegmentFigures, OfTheToothNameTheirEditor) {
+  for (const char* control : {"txtVariableNumTeeth", "txtAverageSpace", "txtAverageDepth"}) {
+    EXPECT_EQ(SegmentMustUse(control), "To change this value you must use the tooth shape editor.")
+        << control;
+  }
+  for (const char* control : {"", "txtSegmentSize", "txtNumberOfSegments", "txtToothSpace(0)",
+                              "txtToothDepth(0)", "cboPattern", "cmdVariableOK"}) {
+    EXPECT_EQ(SegmentMustUse(control), "") << control;
+  }
+}
+
 TEST(SegmentTopics, AreThoseOfTheDialogs) {
   EXPECT_EQ(SegmentTopic("txtToothSpace(3)"), 202);
   EXPECT_EQ(SegmentTopic("lblToothSpace(3)"), 202);

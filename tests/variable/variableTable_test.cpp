@@ -3,48 +3,18 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
-#include <cstdlib>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
-#include <vector>
 
-#include "cli/JsonReader.h"
-#include "model/modFields.h"
 #include "platform/CollectedMessages.h"
 #include "support/ScriptedDialogHost.h"
+#include "support/VariableRows.h"
 #include "variable/VariableEditor.h"
 
 namespace tarnwick {
 namespace {
 
 using nlohmann::json;
-
-const std::vector<json>& Table() {
-  static const std::vector<json> rows = [] {
-    std::ifstream file(TARNWICK_TEST_DATA_DIR "/variable.jsonl");
-    std::vector<json> read;
-    for (std::string line; std::getline(file, line);) read.push_back(json::parse(line));
-    return read;
-  }();
-  return rows;
-}
-
-/// "GulletInfo.Depth": 1 as {"GulletInfo": {"Depth": 1}}.
-json Nested(const json& dotted) {
-  json nested = json::object();
-  for (const auto& [name, value] : dotted.items()) {
-    std::string path = "/" + name;
-    std::replace(path.begin(), path.end(), '.', '/');
-    nested[json::json_pointer(path)] = value;
-  }
-  return nested;
-}
-
-std::string BoxOf(bool shown, bool opens, const std::string& text) {
-  return shown ? (opens ? "+" : "=") + text : "-";
-}
 
 /// A band with its panel, played by the steps of a row.
 class Play {
@@ -53,9 +23,7 @@ class Play {
     design_.Settings.Calculation.DecimalPlaces = row["DecimalPlaces"].get<std::int16_t>();
     design_.Settings.Calculation.DisplayPlaces = row["DisplayPlaces"].get<std::int16_t>();
     design_.ImpMetric = row["ImpMetric"].get<std::int16_t>();
-    const cli::JsonDesign read = cli::ReadDesignJson(Nested(row["saw"]).dump());
-    EXPECT_FALSE(read.Failed) << read.Failed.value_or("");
-    design_.Saw = read.Saw;
+    design_.Saw = test::DesignOf(row);
     design_.Recalculate(say_);
   }
 
@@ -91,39 +59,15 @@ class Play {
     for (int k = 0; k < VariableValues::Rows; ++k) {
       const SegmentRow row = editor_.Row(k);
       const std::string index = '(' + std::to_string(k) + ')';
-      seen["txtToothSpace" + index] = BoxOf(row.Shown, row.PitchOpens, editor_.PitchText(k, format));
-      seen["txtToothDepth" + index] = BoxOf(row.Shown, row.DepthOpens, editor_.DepthText(k, format));
+      seen["txtToothSpace" + index] = test::BoxMark(row.Shown, row.PitchOpens, editor_.PitchText(k, format));
+      seen["txtToothDepth" + index] = test::BoxMark(row.Shown, row.DepthOpens, editor_.DepthText(k, format));
     }
     return seen;
   }
 
-  /// The names of the fields that differ from what is wanted.
-  std::string Differing(const json& wanted) const {
-    std::string differing;
-    ForEachField(design_.Saw, [&](const std::string& name, const auto& field) {
-      if (wanted.contains(name) && !Same(field, wanted[name])) differing += name + ' ';
-    });
-    return differing;
-  }
+  const BandSaw& Saw() const { return design_.Saw; }
 
  private:
-  static bool Same(double field, const json& wanted) {
-    const double number = std::strtod(wanted.get<std::string>().c_str(), nullptr);
-    return std::bit_cast<std::uint64_t>(field) == std::bit_cast<std::uint64_t>(number);
-  }
-  static bool Same(std::int16_t field, const json& wanted) { return field == wanted.get<int>(); }
-  static bool Same(const SegmentMeasures& field, const json& wanted) {
-    for (std::size_t k = 0; k < field.size(); ++k) {
-      if (!Same(field[k], wanted[k])) return false;
-    }
-    return wanted.size() == field.size();
-  }
-  template <class Other>
-  static bool Same(const Other&, const json&) {
-    ADD_FAILURE() << "no field of this kind stands in the table";
-    return false;
-  }
-
   void Ask(const json& step, void (VariableEditor::*click)(int, const Questions&), bool opens) {
     if (opens) {
       host_.Values.push_back(step[2].is_null() ? test::Cancels() : test::Enters(step[2].get<std::string>()));
@@ -143,9 +87,9 @@ class Play {
 };
 
 TEST(VariableTable, HoldsEveryControlAndFieldAfterEachStep) {
-  ASSERT_GE(Table().size(), 140U);
+  ASSERT_GE(test::VariableRows().size(), 140U);
   std::size_t steps = 0;
-  for (const json& row : Table()) {
+  for (const json& row : test::VariableRows()) {
     SCOPED_TRACE(row["name"]);
     Play play(row);
     json seen, stored;
@@ -157,7 +101,7 @@ TEST(VariableTable, HoldsEveryControlAndFieldAfterEachStep) {
       ++steps;
       EXPECT_EQ(play.Recalculations(), step["recalculations"].get<int>());
       EXPECT_EQ(play.Seen(), seen) << json::diff(seen, play.Seen());
-      EXPECT_EQ(play.Differing(stored), "");
+      EXPECT_EQ(test::DifferingFields(play.Saw(), stored), "");
       if (HasFailure()) return;  // what follows would differ too
     }
   }

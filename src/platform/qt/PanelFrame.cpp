@@ -65,6 +65,7 @@ QPushButton* PanelFrame::AddButton(const char* name, const QString& caption, con
   button->setObjectName(name);
   button->setAccessibleName(spoken);
   button->setAccessibleDescription(ToQt(NumberedText(hint)));
+  button->setAutoDefault(true);  // Enter presses the one that has the focus
   Watch(button);
   if (side == Side::Left) {
     foot_->insertWidget(leftButtons_++, button);
