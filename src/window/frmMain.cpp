@@ -221,7 +221,7 @@ void frmMain::BindVariable() {
 void frmMain::BindPanels() {
   connect(display_, &fraDisplay::ViewChanged, this, [this] { ShowView(false); });
   connect(display_, &fraDisplay::Painted, this, &frmMain::BeginSoon);
-  connect(display_, &fraDisplay::Hovered, this, [this] { ShowStatus("", ""); });
+  connect(display_, &fraDisplay::Hovered, this, [this] { ShowHint(nullptr); });
   connect(fraMain_, &fraMain::RowPressed, this,
           [this](const InfoRow& row) { Run("picSawData", [&] { editors_.PressRow(InfoRow(row)); }); });
   connect(fraMain_, &fraMain::RowHovered, this, &frmMain::ShowHintOfRow);
