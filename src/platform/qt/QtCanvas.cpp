@@ -6,8 +6,8 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
-#include <numbers>
-#include <optional>
+
+#include "platform/qt/SeenLines.h"
 
 namespace tarnwick {
 namespace {
@@ -15,27 +15,8 @@ namespace {
 constexpr double CenterLineShare = 0.6;  // of a saw line's: the saw is the loudest thing on the screen
 constexpr double SeenMargin = 8;         // pixels around the surface where strokes may still end
 constexpr double Flatness = 0.1;         // device pixels that a chord may lie beside its arc
-constexpr double MostChords = 65536;
 
 QPointF ToQt(Spot spot) { return {spot.X, spot.Y}; }
-
-/// The part of `line` inside of `box` (Liang and Barsky); none when it passes by, or is no number.
-std::optional<QLineF> Clipped(const QLineF& line, const QRectF& box) {
-  double from = 0, to = 1;
-  const auto cut = [&](double towards, double room) {  // keeps what has towards * t <= room
-    if (!(towards != 0)) return room >= 0;
-    const double t = room / towards;
-    if (towards < 0) from = std::max(from, t);
-    if (towards > 0) to = std::min(to, t);
-    return from <= to;
-  };
-  if (!std::isfinite(line.dx()) || !std::isfinite(line.dy())) return {};
-  if (!cut(-line.dx(), line.x1() - box.left()) || !cut(line.dx(), box.right() - line.x1()) ||
-      !cut(-line.dy(), line.y1() - box.top()) || !cut(line.dy(), box.bottom() - line.y1())) {
-    return {};
-  }
-  return QLineF(line.pointAt(from), line.pointAt(to));
-}
 
 bool IsUpright(const QLineF& line) { return line.dx() == 0; }
 bool IsLevel(const QLineF& line) { return line.dy() == 0; }
@@ -64,24 +45,6 @@ QRectF Bar(const QLineF& line, double ratio) {
   const QPointF to(edge(std::max(line.x1(), line.x2())) + weight,
                    edge(std::max(line.y1(), line.y2())) + weight);
   return {from / ratio, to / ratio};
-}
-
-/// An ellipse by its box, in the angles of a surface: 0 to the right, anticlockwise for the eye.
-struct Ellipse {
-  double CenterX, CenterY, RadiusX, RadiusY;
-
-  [[nodiscard]] double AngleTo(Spot spot) const {
-    return std::atan2((CenterY - spot.Y) / RadiusY, (spot.X - CenterX) / RadiusX);
-  }
-  [[nodiscard]] QPointF At(double angle) const {
-    return {CenterX + (RadiusX * std::cos(angle)), CenterY - (RadiusY * std::sin(angle))};
-  }
-};
-
-/// How many chords stand for an arc of `sweep` radians so that nobody sees them.
-int ChordsFor(double radius, double sweep) {
-  const double chord = 2 * std::acos(1 - std::min(1.0, Flatness / radius));
-  return static_cast<int>(std::clamp(std::ceil(sweep / chord), 1.0, MostChords));
 }
 
 }  // namespace
@@ -125,7 +88,7 @@ void QtCanvas::SetPen(Colour colour, PenStyle style) {
 }
 
 void QtCanvas::Polyline(std::span<const Spot, 2> points) {
-  const auto line = Clipped(QLineF(ToQt(points[0]), ToQt(points[1])), seen_);
+  const auto line = SeenPart(QLineF(ToQt(points[0]), ToQt(points[1])), seen_);
   if (!line) return;
   if (style_ != PenStyle::Solid) {
     lines_.push_back(OnPixels(*line, ratio_, painter_.pen().widthF()));
@@ -138,26 +101,10 @@ void QtCanvas::Polyline(std::span<const Spot, 2> points) {
 
 // The arc goes out as chords: exact at any radius, and only those that can be seen.
 void QtCanvas::Arc(Spot topLeft, Spot bottomRight, Spot start, Spot end) {
-  const Ellipse ellipse{(topLeft.X + bottomRight.X) / 2, (topLeft.Y + bottomRight.Y) / 2,
-                        (bottomRight.X - topLeft.X) / 2, (bottomRight.Y - topLeft.Y) / 2};
-  if (!(ellipse.RadiusX > 0) || !(ellipse.RadiusY > 0)) return;
-  const double from = ellipse.AngleTo(start);
-  double sweep = start == end ? 2 * std::numbers::pi : ellipse.AngleTo(end) - from;
-  if (sweep <= 0) sweep += 2 * std::numbers::pi;
-  if (!std::isfinite(from + sweep)) return;
-
-  const int chords = ChordsFor(std::max(ellipse.RadiusX, ellipse.RadiusY) * ratio_, sweep);
-  std::vector<QPointF> chain{ellipse.At(from)};
-  for (int i = 1; i <= chords; ++i) {
-    const QPointF next = ellipse.At(from + (sweep * i / chords));
-    if (Clipped(QLineF(chain.back(), next), seen_)) {
-      chain.push_back(next);
-    } else {
-      DrawChain(chain);
-      chain = {next};
-    }
-  }
-  DrawChain(chain);
+  const Ellipse ellipse = Ellipse::InBox(topLeft, bottomRight);
+  if (!ellipse.CanBeDrawn()) return;
+  DrawSeenChains(ellipse, ellipse.AngleTo(start), ellipse.Sweep(start, end), Flatness / ratio_, seen_,
+                 [this](const std::vector<QPointF>& chain) { DrawChain(chain); });
 }
 
 void QtCanvas::Polygon(std::span<const Spot> points) {
