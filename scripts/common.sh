@@ -21,7 +21,8 @@ as_root() {
 packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev fonts-dejavu-core
   qt6-base-dev qt6-svg-dev qt6-tools-dev libqt6sql6-sqlite) # the last is what the manual is read with
 # shellcheck disable=SC2034
-packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemagick)
+packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemagick
+  cups-daemon cups-client poppler-utils)
 # shellcheck disable=SC2034
 packages_full=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
   python3-ezdxf gdal-bin g++-mingw-w64-x86-64-posix googletest wine wine64)

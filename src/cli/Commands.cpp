@@ -10,6 +10,7 @@
 #include "cli/JsonWriter.h"
 #include "cli/Machine.h"
 #include "cli/Output.h"
+#include "cli/Sibling.h"
 #include "cli/Streams.h"
 #include "dxf/modDXF.h"
 #include "model/modZoom.h"
@@ -22,11 +23,6 @@ namespace tarnwick::cli {
 namespace {
 
 Scope ScopeOf(const Options& options) { return options.Segment ? Scope::Segment : Scope::WholeBand; }
-
-/// Messages of reading and calculating that have no place in the output; they are no failure.
-void TellNotes(const std::string& name, const Design& design) {
-  for (const std::string& note : design.Notes) Tell(name, note);
-}
 
 /// Appends the members of a line of JSON behind the name of the design, each with its comma ahead.
 using AppendMembers = void (*)(const Options& options, std::string& line, Design& design);
@@ -113,7 +109,12 @@ Problem WriteDesign(const Options& options, Output& output, const std::string& n
   return output.Write(name, BandSawText(design.Saw));
 }
 
-/// Runs `work` on each design; no failure of one keeps the next from its turn.
+}  // namespace
+
+void TellNotes(const std::string& name, const Design& design) {
+  for (const std::string& note : design.Notes) Tell(name, note);
+}
+
 ExitCode ForEachDesign(const Options& options, const std::function<Problem(const std::string&)>& work) {
   ExitCode outcome = ExitCode::AllDone;
   for (const std::string& name : options.Designs) {
@@ -129,8 +130,6 @@ ExitCode ForEachDesign(const Options& options, const std::function<Problem(const
   }
   return outcome;
 }
-
-}  // namespace
 
 ExitCode RunCommand(const Options& options) {
   switch (options.Asked) {
@@ -151,6 +150,8 @@ ExitCode RunCommand(const Options& options) {
       return ForEachDesign(
           options, [&](const std::string& name) { return WriteDrawing(options, output, name, SvgText); });
     }
+    case Command::Pdf:
+      return RunSibling("tarnwick-pdf", options.Arguments);
     case Command::Bsw: {
       Output output(options, ".bsw");
       return ForEachDesign(options,
@@ -167,13 +168,13 @@ ExitCode RunCommand(const Options& options) {
   return ExitCode::WrongUsage;
 }
 
-int RunTool(int argc, const char* const* argv) noexcept {
+int RunTool(int argc, const char* const* argv, CommandRunner run) noexcept {
   KeepLineEnds();
   ExitCode outcome = ExitCode::SomeFailed;
   try {
     const std::variant<Options, ExitCode> asked = ParseOptions(argc, argv);
     const Options* options = std::get_if<Options>(&asked);
-    outcome = options != nullptr ? RunCommand(*options) : std::get<ExitCode>(asked);
+    outcome = options != nullptr ? run(*options) : std::get<ExitCode>(asked);
   } catch (const std::exception& why) {
     Tell("stopped", why.what());
   }

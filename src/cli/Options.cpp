@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <string_view>
 
@@ -125,6 +126,21 @@ CLI::App& AddSvg(CLI::App& app, Options& options) {
   return svg;
 }
 
+CLI::App& AddPdf(CLI::App& app, Options& options) {
+  CLI::App& pdf =
+      AddCommand(app, "pdf", "Write the print-outs of each design as a PDF file on letter paper", options);
+  AddOutput(pdf, options, ".pdf");
+  const std::map<std::string, SawPages> pages{
+      {"both", SawPages::Both}, {"drawing", SawPages::SawDrawing}, {"info", SawPages::SawInfo}};
+  pdf.add_option_function<SawPages>(
+         "--pages", [&options](const SawPages& chosen) { options.Pages = chosen; },
+         "Write the information sheet, the drawing in true size, or both; without it both, and the segment\n"
+         "of a variable pitch band over as many sheets as it takes")
+      ->type_name("both|drawing|info")
+      ->transform(CLI::Transformer(pages));
+  return pdf;
+}
+
 CLI::App& AddBsw(CLI::App& app, Options& options) {
   CLI::App& bsw = AddCommand(app, "bsw", "Write each design as a band saw file", options);
   AddOutput(bsw, options, ".bsw");
@@ -214,6 +230,7 @@ void TakeUsersSettings(Options& options) {
   Config config;
   const std::unique_ptr<SettingsStore> store = UserSettingsStore();
   if (!ReadConfig(config, *store)) return;
+  options.User = config;
   options.Settings = config.Calculation;
   options.GulletFeedIndex = config.GulletFeedIndex;
 }
@@ -226,6 +243,7 @@ bool AsksForDefaults(int argc, const char* const* argv) {
 
 std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) {
   Options options;
+  options.Arguments.assign(argv + 1, argv + argc);
   if (!AsksForDefaults(argc, argv)) TakeUsersSettings(options);
   CLI::App app("Tarnwick: designs of band saw blades, their figures and their drawings", "tarnwick-cli");
   AddOptionsForAll(app, options);
@@ -236,6 +254,7 @@ std::variant<Options, ExitCode> ParseOptions(int argc, const char* const* argv) 
   AddPower(app, options).callback([&options] { options.Asked = Command::Power; });
   AddDxf(app, options).callback([&options] { options.Asked = Command::Dxf; });
   AddSvg(app, options).callback([&options] { options.Asked = Command::Svg; });
+  AddPdf(app, options).callback([&options] { options.Asked = Command::Pdf; });
   AddBsw(app, options).callback([&options] { options.Asked = Command::Bsw; });
   AddMachine(app, options).callback([&options] { options.Asked = Command::Machine; });
   AddEval(app, options).callback([&options] { options.Asked = Command::Eval; });

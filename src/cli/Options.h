@@ -8,10 +8,12 @@
 #include "cli/ExitCode.h"
 #include "model/modSettings.h"
 #include "power/modFeedIndex.h"
+#include "print/modPrintPage.h"
+#include "store/modCfg.h"
 
 namespace tarnwick::cli {
 
-enum class Command { Json, Power, Dxf, Svg, Bsw, Machine, Eval };
+enum class Command { Json, Power, Dxf, Svg, Pdf, Bsw, Machine, Eval };
 
 /// Name of a design or an output that stands for standard input or output.
 inline constexpr const char* StandardStream = "-";
@@ -23,6 +25,9 @@ struct Options {
   std::vector<std::string> Texts;    // eval: the equations, in the order given; one at least
   CalculationSettings Settings;
   bool DefaultSettings{};  // start from the defaults, whatever the user has set
+  Config User;             // what the user has set; what the command line says of it stands in Settings
+
+  std::vector<std::string> Arguments;  // the command line itself, without the program
 
   double GulletFeedIndex = DefaultGulletFeedIndex;  // power
   std::optional<double> FeedIndexPercent;           // as given
@@ -35,7 +40,9 @@ struct Options {
 
   bool AsPicture{};  // machine: the output is an SVG picture, no DXF file
 
-  // dxf, svg and bsw: one of the two is given; machine: one of the two, or none
+  std::optional<SawPages> Pages;  // pdf: these, and no segment
+
+  // dxf, svg, pdf and bsw: one of the two is given; machine: one of the two, or none
   std::string OutputFile;    // of the one design; "-" is standard output
   std::string OutputFolder;  // of all designs, each under its own name
 };

@@ -1,23 +1,14 @@
 #include "cli/Commands.h"
+#include "cli/WideArguments.h"
+
+namespace {
+
+int Run(int argc, const char* const* argv) { return tarnwick::cli::RunTool(argc, argv); }
+
+}  // namespace
 
 #ifdef _WIN32
-
-#include <string>
-#include <vector>
-
-#include "store/modPath.h"
-
-// Names of files may be in any script. Only wide arguments have room for that; from here on they are UTF-8.
-int wmain(int argc, wchar_t** argv) {
-  std::vector<std::string> texts;
-  for (int i = 0; i < argc; ++i) texts.push_back(tarnwick::PathText(argv[i]));
-  std::vector<const char*> arguments;
-  for (const std::string& text : texts) arguments.push_back(text.c_str());
-  return tarnwick::cli::RunTool(argc, arguments.data());
-}
-
+int wmain(int argc, wchar_t** argv) { return tarnwick::cli::RunOnWide(argc, argv, Run); }
 #else
-
-int main(int argc, char** argv) { return tarnwick::cli::RunTool(argc, argv); }
-
+int main(int argc, char** argv) { return Run(argc, argv); }
 #endif

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "print/frmPrinter.h"
+
+class QGroupBox;
+
+namespace tarnwick {
+
+/// The window of a PrinterChoice with the sheets of a saw to choose from.
+class frmPrinterPage final : public PrinterForm {
+ public:
+  frmPrinterPage(PrinterChoice& choice, HelpViewer& help, QWidget* parent = nullptr);
+
+ private:
+  QGroupBox* MakePages();
+};
+
+}  // namespace tarnwick
