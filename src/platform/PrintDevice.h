@@ -31,7 +31,7 @@ struct PaperBox {
 
 /// The face is the one of the main window's drawing; the device knows it.
 struct PrintFont {
-  double Points = 10;
+  double Points{};
   bool Bold = false;
   bool operator==(const PrintFont&) const = default;
 };

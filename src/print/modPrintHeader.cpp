@@ -10,9 +10,8 @@ namespace tarnwick {
 namespace {
 
 constexpr double TitleCenter = 5700, TitleTop = SheetRow;
-constexpr double CompanyTop = 2.25 * SheetRow, AddressTop = 3.25 * SheetRow;
+constexpr double CompanyTop = 2 * SheetRow, AddressTop = 3.25 * SheetRow;
 constexpr double LabelTop = 2.5 * SheetRow;  // of a label without a company above it; the date's too
-constexpr double LeastLeft = FootMargin;     // a title that has no room loses its end, not its beginning
 
 void AppendText(PrintSheet& sheet, double x, double y, std::string text, PrintFont font = {TextPoints}) {
   sheet.push_back(SheetText{{x, y}, std::move(text), font});
@@ -21,7 +20,8 @@ void AppendText(PrintSheet& sheet, double x, double y, std::string text, PrintFo
 void AppendTitle(PrintSheet& sheet, const std::string& title, const TextRuler& ruler) {
   const PrintFont font{TitlePoints, true};
   const double left = TitleCenter - ruler.TextSize(title, font).Width / 2;
-  AppendText(sheet, std::max(left, LeastLeft), TitleTop, title, font);
+  // One that has no room loses its end, not its beginning.
+  AppendText(sheet, std::max(left, SideMargin), TitleTop, title, font);
 }
 
 /// @return the top of the line below the company; where there is none, that of the label alone

@@ -16,14 +16,17 @@ struct PrintPage {
   double Width{}, Height{};  // as the eye holds the sheet; the width of the paper is the one of FitPaper
   double Left{}, Top{};      // the origin
   PaperBox Frame;            // of the drawing
+
   [[nodiscard]] bool IsPortrait() const { return Turned == PaperOrientation::Portrait; }
+  [[nodiscard]] double PaperWidth() const { return IsPortrait() ? 8.5 * TwipsPerInch : Width; }
   bool operator==(const PrintPage&) const = default;
 };
 
-inline constexpr double TextPoints = 10;     // of all text that says nothing else
+inline constexpr double TextPoints = 9;      // of all text that says nothing else
 inline constexpr double SheetRow = 265;      // height of a row of text
 inline constexpr double FirstRowTop = 2400;  // of the rows below the header
 inline constexpr double FootMargin = 360;    // below the last row, and below a drawing
+inline constexpr double SideMargin = 240;    // that texts keep from the paper's border
 
 // The three groups of columns, 1 to 3; the third has room on a landscape sheet only.
 [[nodiscard]] double LabelX(int column, const PrintPage& page);

@@ -6,6 +6,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int RowsOfABlock = 50;
+constexpr double HeadingHeight = 1.5 * SheetRow;  // with the air below it
 
 /// Prints line after line.
 class LinePrinter {
@@ -43,9 +44,9 @@ std::string InColumn(const std::string& text) {
 }  // namespace
 
 void AppendPowerLines(PrintSheet& sheet, const PowerSheetText& text, const PrintPage& page, double top) {
-  LinePrinter printer(sheet, page, top);
-  printer.Print(text.Heading, {}, true);
-  printer.Skip();
+  sheet.push_back(
+      SheetText{{static_cast<double>(PlaceOfPowerRow(0).LabelX), top}, text.Heading, {TextPoints, true}});
+  LinePrinter printer(sheet, page, top + HeadingHeight);
   for (const PowerLine& line : text.Lines) {
     if (line.Is == PowerLine::Role::Blank) {
       printer.Skip();

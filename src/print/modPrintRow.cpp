@@ -161,77 +161,83 @@ class Builder {
 
 // ---- where they stand
 
-PrintFont FontOf(bool heading) { return {TextPoints, heading}; }
+constexpr double LeastPoints = 7;
 
 /// Rows of a sheet, taken one after another.
 class Layout {
  public:
-  Layout(const PrintPage& page, const TextRuler& ruler)
+  Layout(const PrintPage& page, const TextRuler& ruler, double points)
       : page_(page),
         ruler_(ruler),
+        points_(points),
         columns_(page.IsPortrait() ? 2 : 3),
         rows_(static_cast<int>((page.Height - FootMargin - FirstRowTop) / SheetRow)) {}
 
   void Place(const SheetSection& section) {
-    const std::optional<Run> run = FindRun(section);
-    if (run) {
-      for (std::size_t i = 0; i < section.size(); ++i) Put(*run, static_cast<int>(i), section[i]);
-      column_ = std::max(column_, run->Column);
+    if (const std::optional<Cell> first = FindRoom(section)) {
+      Put(*first, section);
     } else {
-      for (const SheetRowText& row : section) PutAnywhere(row);
+      PlaceParts(section);
     }
   }
 
-  std::vector<PrintRow> Rows() { return std::move(placed_); }
+  /// Whether a row has found no room.
+  [[nodiscard]] bool IsFull() const { return full_; }
+  PrintRows Rows() { return {std::move(placed_), points_}; }
 
  private:
-  /// From this row on.
-  struct Run {
+  struct Cell {
     int Column, Row;
   };
 
   [[nodiscard]] static int Size(const SheetSection& section) { return static_cast<int>(section.size()); }
+  [[nodiscard]] static const SheetRowText& RowOf(const SheetSection& section, int i) {
+    return section[static_cast<std::size_t>(i)];
+  }
 
-  /// Room for a whole section: in the column in hand, in the next ones, in what an earlier one has left.
-  [[nodiscard]] std::optional<Run> FindRun(const SheetSection& section) const {
-    for (int i = 0; i < columns_; ++i) {
-      const int column = (column_ - 1 + i) % columns_ + 1;
-      for (int row = column == column_ ? NextRow(column) : 0; row + Size(section) <= rows_; ++row) {
-        if (IsFree({column, row}, section)) return Run{column, row};
+  /// The first cell of room for a whole section: in the column in hand, in the next ones, in what an earlier
+  /// one has left. Close to another text only when there is no better place.
+  [[nodiscard]] std::optional<Cell> FindRoom(const SheetSection& section) const {
+    for (const double air : {400.0, 150.0}) {
+      for (int i = 0; i < columns_; ++i) {
+        const int column = (column_ - 1 + i) % columns_ + 1;
+        for (int row = column == column_ ? NextRow(column) : 0; row + Size(section) <= rows_; ++row) {
+          if (HasRoom({column, row}, section, air)) return Cell{column, row};
+        }
       }
     }
     return std::nullopt;
   }
 
-  [[nodiscard]] bool IsFree(Run run, const SheetSection& section) const {
-    const int below = run.Row + Size(section);
-    if (At(run.Column, run.Row - 1) || At(run.Column, below)) return false;  // no empty row between
+  [[nodiscard]] bool HasRoom(Cell first, const SheetSection& section, double air) const {
+    const Cell above{first.Column, first.Row - 1}, below{first.Column, first.Row + Size(section)};
+    if (At(above) || At(below)) return false;  // an empty row is to be between
     for (int i = 0; i < Size(section); ++i) {
-      if (!HasRoom(run.Column, run.Row + i, section[static_cast<std::size_t>(i)])) return false;
+      if (!HasRoom(Cell{first.Column, first.Row + i}, RowOf(section, i), air)) return false;
     }
     return true;
   }
 
-  /// Nothing is there, and no text would run into another one.
-  [[nodiscard]] bool HasRoom(int column, int row, const SheetRowText& text) const {
-    if (At(column, row)) return false;
-    if (const PrintRow* left = At(column - 1, row); left && Reach(*left) > LabelX(column, page_))
-      return false;
-    const double reach = Reach(Placed(column, row, text));
-    return reach <= (At(column + 1, row) ? LabelX(column + 1, page_) : page_.Width);
+  /// Nothing is there, and no text would run into another one or off the paper.
+  [[nodiscard]] bool HasRoom(Cell cell, const SheetRowText& text, double air) const {
+    if (At(cell)) return false;
+    const PrintRow* left = At({cell.Column - 1, cell.Row});
+    if (left && Reach(*left) + air > LabelX(cell.Column, page_)) return false;
+    const double reach = Reach(Placed(cell, text));
+    return At({cell.Column + 1, cell.Row}) ? reach + air <= LabelX(cell.Column + 1, page_)
+                                           : reach <= page_.PaperWidth() - SideMargin;
   }
 
-  /// How far a row's texts reach, with some air.
+  /// How far a row's texts reach.
   [[nodiscard]] double Reach(const PrintRow& row) const {
-    constexpr double air = 100;
-    const PrintFont font = FontOf(row.Heading);
+    const PrintFont font{points_, row.Heading};
     const double label = row.LabelX + ruler_.TextSize(row.Label, font).Width;
-    const double value = row.Value.empty() ? 0 : row.ValueX + ruler_.TextSize(row.Value, font).Width;
-    return std::max(label, value) + air;
+    return row.Value.empty() ? label : std::max(label, row.ValueX + ruler_.TextSize(row.Value, font).Width);
   }
 
-  [[nodiscard]] const PrintRow* At(int column, int row) const {
-    const PrintRow place = PlaceOfRow(column, row, page_);
+  [[nodiscard]] const PrintRow* At(Cell cell) const {
+    if (cell.Column < 1 || cell.Column > columns_) return nullptr;
+    const PrintRow place = PlaceOfRow(cell.Column, cell.Row, page_);
     const auto found = std::find_if(placed_.begin(), placed_.end(), [&](const PrintRow& p) {
       return p.LabelX == place.LabelX && p.Top == place.Top;
     });
@@ -242,40 +248,61 @@ class Layout {
   [[nodiscard]] int NextRow(int column) const {
     int next = 0;
     for (int row = 0; row < rows_; ++row) {
-      if (At(column, row)) next = row + 2;
+      if (At({column, row})) next = row + 2;
     }
     return next;
   }
 
-  [[nodiscard]] PrintRow Placed(int column, int row, const SheetRowText& text) const {
-    PrintRow placed = PlaceOfRow(column, row, page_);
+  [[nodiscard]] PrintRow Placed(Cell cell, const SheetRowText& text) const {
+    PrintRow placed = PlaceOfRow(cell.Column, cell.Row, page_);
     placed.Label = text.Label;
     placed.Value = text.Value;
     placed.Heading = text.Heading;
     return placed;
   }
 
-  void Put(Run run, int offset, const SheetRowText& text) {
-    placed_.push_back(Placed(run.Column, run.Row + offset, text));
+  void Put(Cell first, const SheetSection& section) {
+    for (int i = 0; i < Size(section); ++i) {
+      placed_.push_back(Placed({first.Column, first.Row + i}, RowOf(section, i)));
+    }
+    column_ = std::max(column_, first.Column);
   }
 
-  /// A section that is longer than any room left goes wherever a row is free, and over another text rather
-  /// than not at all.
-  void PutAnywhere(const SheetRowText& text) {
-    for (int column = column_; column <= columns_; ++column) {
-      for (int row = 0; row < rows_; ++row) {
-        if (HasRoom(column, row, text)) return Put({column, row}, 0, text);
+  /// A section that nowhere has room as a whole: up to a heading within it, or else as much as there is room
+  /// for, and then the rest.
+  void PlaceParts(const SheetSection& section) {
+    const auto inner =
+        std::find_if(section.begin() + 1, section.end(), [](const auto& row) { return row.Heading; });
+    if (inner != section.end()) {
+      Place({section.begin(), inner});
+      Place({inner, section.end()});
+      return;
+    }
+    for (auto end = section.end() - 1; end != section.begin(); --end) {
+      const SheetSection part(section.begin(), end);
+      if (const std::optional<Cell> first = FindRoom(part)) {
+        Put(*first, part);
+        return Place({end, section.end()});
       }
     }
-    for (int row = 0;; ++row) {
-      if (!At(1, row)) return Put({1, row}, 0, text);
-    }
+    full_ = true;
+    Put(AnyFree(), {section.front()});
+    if (section.size() > 1) Place({section.begin() + 1, section.end()});
+  }
+
+  /// When the sheet is full: over the end of another text, or below all, rather than nowhere.
+  [[nodiscard]] Cell AnyFree() const {
+    Cell cell{columns_, 0};
+    while (At(cell)) ++cell.Row;
+    return cell;
   }
 
   const PrintPage& page_;
   const TextRuler& ruler_;
+  const double points_;
   const int columns_, rows_;
   int column_ = 1;  // in hand
+  bool full_ = false;
   std::vector<PrintRow> placed_;
 };
 
@@ -294,16 +321,18 @@ PrintRow PlaceOfRow(int column, int row, const PrintPage& page) {
           .Value = {}};
 }
 
-std::vector<PrintRow> PlaceSections(const std::vector<SheetSection>& sections, const PrintPage& page,
-                                    const TextRuler& ruler) {
-  Layout layout(page, ruler);
-  for (const SheetSection& section : sections) layout.Place(section);
-  return layout.Rows();
+PrintRows PlaceSections(const std::vector<SheetSection>& sections, const PrintPage& page,
+                        const TextRuler& ruler) {
+  for (double points = TextPoints;; --points) {
+    Layout layout(page, ruler, points);
+    for (const SheetSection& section : sections) layout.Place(section);
+    if (!layout.IsFull() || points <= LeastPoints) return layout.Rows();
+  }
 }
 
-void AppendRows(PrintSheet& sheet, const std::vector<PrintRow>& rows) {
-  for (const PrintRow& row : rows) {
-    const PrintFont font = FontOf(row.Heading);
+void AppendRows(PrintSheet& sheet, const PrintRows& rows) {
+  for (const PrintRow& row : rows.Rows) {
+    const PrintFont font{rows.Points, row.Heading};
     sheet.push_back(SheetText{{row.LabelX, row.Top}, row.Label, font});
     if (!row.Value.empty()) sheet.push_back(SheetText{{row.ValueX, row.Top}, row.Value, font});
   }

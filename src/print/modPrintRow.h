@@ -37,11 +37,18 @@ struct PrintRow {
 /// Where a row of a column stands, counted from 0.
 [[nodiscard]] PrintRow PlaceOfRow(int column, int row, const PrintPage& page);
 
-/// Gives the sections their places: one below the other with an empty row between, in the next column when
-/// the sheet ends. Values are wider than the columns stand apart; a row keeps clear of the texts beside it.
-[[nodiscard]] std::vector<PrintRow> PlaceSections(const std::vector<SheetSection>& sections,
-                                                  const PrintPage& page, const TextRuler& ruler);
+/// The rows of a sheet, and the size of their letters.
+struct PrintRows {
+  std::vector<PrintRow> Rows;
+  double Points = TextPoints;
+};
 
-void AppendRows(PrintSheet& sheet, const std::vector<PrintRow>& rows);
+/// Gives the sections their places: one below the other with an empty row between, in the next column when
+/// the sheet ends. Values are wider than the columns stand apart, so a row keeps clear of the texts beside
+/// it; on a sheet that is too full for that, letters are smaller.
+[[nodiscard]] PrintRows PlaceSections(const std::vector<SheetSection>& sections, const PrintPage& page,
+                                      const TextRuler& ruler);
+
+void AppendRows(PrintSheet& sheet, const PrintRows& rows);
 
 }  // namespace tarnwick

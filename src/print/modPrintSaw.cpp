@@ -1,6 +1,7 @@
 #include "print/modPrintSaw.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -12,6 +13,8 @@ namespace {
 
 constexpr double LeftOfBand = -0.25;  // in, what the left border of the frame shows
 constexpr double PointsPerInch = TwipsPerInch / TwipsPerPoint;
+
+bool IsFinite(PaperSpot spot) { return std::isfinite(spot.X) && std::isfinite(spot.Y); }
 
 /// One walk over a list.
 class Drawing {
@@ -27,9 +30,10 @@ class Drawing {
 
  private:
   void Put(const LineEntity& line) {
-    if (line.IsOutline || !Shows(BoxOf(line))) return;
+    const PaperSpot from = ToPaper(line.Corner1X, line.Corner1Y), to = ToPaper(line.Corner4X, line.Corner4Y);
+    if (line.IsOutline || !IsFinite(from) || !IsFinite(to) || !Shows(BoxOf(line))) return;
     if (line.IsDotted) sheet_.push_back(SheetPen{{lineThick_, true}});
-    sheet_.push_back(SheetLine{ToPaper(line.Corner1X, line.Corner1Y), ToPaper(line.Corner4X, line.Corner4Y)});
+    sheet_.push_back(SheetLine{from, to});
     if (line.IsDotted) sheet_.push_back(SheetPen{{lineThick_}});
   }
   void Put(const ArcEntity& arc) {
@@ -44,22 +48,24 @@ class Drawing {
   /// The anchor is the lower left corner.
   void Put(const TextEntity& text) {
     const PaperSpot topLeft = ToPaper(text.Corner1X, text.Corner1Y + text.TextHeight);
-    if (!std::isfinite(topLeft.X + topLeft.Y)) return;
+    if (!IsFinite(topLeft)) return;
     sheet_.push_back(SheetText{topLeft, text.Text.Trimmed(), {text.TextHeight * PointsPerInch}});
   }
   void Put(const SolidEntity& solid) {
-    if (!Shows(BoxOf(solid))) return;
-    sheet_.push_back(
-        SheetSolid{{ToPaper(solid.Corner1X, solid.Corner1Y), ToPaper(solid.Corner2X, solid.Corner2Y),
-                    ToPaper(solid.Corner3X, solid.Corner3Y), ToPaper(solid.Corner4X, solid.Corner4Y)}});
+    const std::array corners{ToPaper(solid.Corner1X, solid.Corner1Y), ToPaper(solid.Corner2X, solid.Corner2Y),
+                             ToPaper(solid.Corner3X, solid.Corner3Y),
+                             ToPaper(solid.Corner4X, solid.Corner4Y)};
+    // A box passes over what is no number.
+    if (std::all_of(corners.begin(), corners.end(), IsFinite) && Shows(BoxOf(solid))) {
+      sheet_.push_back(SheetSolid{corners});
+    }
   }
 
   /// Whether a piece meets the box; what lies beyond all numbers does not.
   [[nodiscard]] bool Shows(const PieceBox& piece) const {
     const PaperSpot topLeft = ToPaper(piece.MinX, piece.MaxY), bottomRight = ToPaper(piece.MaxX, piece.MinY);
-    return std::isfinite(topLeft.X + topLeft.Y + bottomRight.X + bottomRight.Y) &&
-           bottomRight.X >= box_.Left && topLeft.X <= box_.Right && bottomRight.Y >= box_.Top &&
-           topLeft.Y <= box_.Bottom;
+    return IsFinite(topLeft) && IsFinite(bottomRight) && bottomRight.X >= box_.Left &&
+           topLeft.X <= box_.Right && bottomRight.Y >= box_.Top && topLeft.Y <= box_.Bottom;
   }
 
   [[nodiscard]] PaperSpot ToPaper(double x, double y) const { return mapping_.ToPaper(x, y); }

@@ -26,5 +26,12 @@ INSTANTIATE_TEST_SUITE_P(
                     TimeRow{"NoSuchMonth", {2026, 13, 1, 1, 1}, ""}),
     [](const auto& row) { return std::string(row.param.Name); });
 
+TEST(PrintDate, HasItsCommaBehindTheMonthAndTwoDigitsOfTheYear) {
+  EXPECT_EQ(PrintDateText({2026, 11, 21, 15, 5}), "Nov, 21/26");
+  EXPECT_EQ(PrintDateText({2007, 5, 1, 0, 0}), "May, 1/07");
+  EXPECT_EQ(PrintDateText({2100, 12, 31, 0, 0}), "Dec, 31/00");
+  EXPECT_EQ(PrintDateText({2026, 0, 1, 0, 0}), "");
+}
+
 }  // namespace
 }  // namespace tarnwick
