@@ -111,17 +111,17 @@ void Editors::TakeAccepted() {
   view_.FillBoxes();
 }
 
-void Editors::ClickBox(const PanelField& field) {
+bool Editors::ClickBox(const PanelField& field) {
   BandSaw& saw = program_.Design.Saw;
+  bool accepted = false;
   switch (field.Act) {
     case BoxAct::Ask:
-      if (ToothBoxState(field, saw.ToothStyle, saw.SeatInfo.State != False) != BoxState::Clickable) return;
-      if (!Asking().Ask(field.Asked, saw)) return;
-      ApplyBoxRule(field.Asked, saw, program_.Design.Settings.Calculation.DecimalPlaces);
-      TakeAccepted();
+      if (ToothBoxState(field, saw.ToothStyle, saw.SeatInfo.State != False) != BoxState::Clickable) break;
+      accepted = Asking().Ask(field.Asked, saw);
+      if (accepted) ApplyBoxRule(field.Asked, saw, program_.Design.Settings.Calculation.DecimalPlaces);
       break;
     case BoxAct::AskSeat:
-      if (Asking().AskSeat(saw.SeatInfo.State)) TakeAccepted();
+      accepted = Asking().AskSeat(saw.SeatInfo.State);
       break;
     case BoxAct::MustUse:
       view_.ShowStatus(NumberedText(field.Text), "");
@@ -131,6 +131,8 @@ void Editors::ClickBox(const PanelField& field) {
     case BoxAct::ReadOnly:
       break;
   }
+  if (accepted) TakeAccepted();
+  return accepted;
 }
 
 void Editors::TypeInto(const PanelField& field, std::string_view text) {

@@ -26,7 +26,8 @@ class Editors {
   void PressToothCancel();
 
   /// A click on a box of a panel; a box that is a result does nothing.
-  void ClickBox(const PanelField& field);
+  /// @return whether a value was accepted
+  bool ClickBox(const PanelField& field);
   /// The text of a box that is typed into, as it stands now.
   void TypeInto(const PanelField& field, std::string_view text);
   void TickBothEdges(bool ticked);

@@ -14,6 +14,7 @@
 #include <QWindow>
 #include <chrono>
 
+#include "platform/qt/QtText.h"
 #include "shell/frmAnime.h"
 #include "shell/modString.h"
 #include "shell/modTimeDate.h"
@@ -28,6 +29,7 @@ namespace tarnwick {
 namespace {
 
 constexpr auto ClockStep = std::chrono::seconds(1);
+constexpr int ImperialHint = 43, MetricHint = 44;
 
 WindowSize SizeOf(const QSize& size) { return {size.width(), size.height()}; }
 QSize ToQt(const WindowSize& size) { return {size.Width, size.Height}; }
@@ -108,17 +110,18 @@ QWidget* frmMain::MakeUnits() {
   units->setObjectName("fraUnits");
   units->installEventFilter(this);
   auto* row = new QHBoxLayout(units);
-  optImperial_ = new QRadioButton(tr("&Imperial"), units);
-  optImperial_->setObjectName("optImperial");
-  optImperial_->setAccessibleName(tr("Imperial"));
-  optMetric_ = new QRadioButton(tr("&Metric"), units);
-  optMetric_->setObjectName("optMetric");
-  optMetric_->setAccessibleName(tr("Metric"));
-  row->addStretch();
-  for (QRadioButton* option : {optImperial_, optMetric_}) {
+  const auto add = [&](const char* name, const QString& caption, int hint) {
+    auto* option = new QRadioButton(caption, units);
+    option->setObjectName(name);
+    option->setAccessibleName(QString(caption).remove('&'));
+    option->setAccessibleDescription(ToQt(NumberedText(hint)));
     option->installEventFilter(this);
     row->addWidget(option);
-  }
+    return option;
+  };
+  row->addStretch();
+  optImperial_ = add("optImperial", tr("&Imperial"), ImperialHint);
+  optMetric_ = add("optMetric", tr("&Metric"), MetricHint);
   row->addStretch();
   connect(optImperial_, &QRadioButton::clicked, this, [this] { TakeUnits(Imperial); });
   connect(optMetric_, &QRadioButton::clicked, this, [this] { TakeUnits(Metric); });
@@ -179,8 +182,11 @@ void frmMain::MakeStatusBar() {
 }
 
 void frmMain::BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors::*cancel)()) {
-  connect(&panel, &FieldPanel::Pressed, this,
-          [this](const PanelField& field) { Run(field.Control, [&] { editors_.ClickBox(field); }); });
+  connect(&panel, &FieldPanel::Pressed, this, [this, &panel](const PanelField& field) {
+    Run(field.Control, [&] {
+      if (editors_.ClickBox(field)) panel.ShowAccepted(field, design_.Saw, design_.Format());
+    });
+  });
   connect(&panel, &FieldPanel::Typed, this, [this](const PanelField& field, const QString& text) {
     editors_.TypeInto(field, text.toStdString());
   });

@@ -9,6 +9,7 @@
 
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/TabStep.h"
 #include "shell/OptionsDialog.h"
 #include "shell/frmCfg.h"
 #include "shell/modString.h"
@@ -24,12 +25,6 @@
 #include "window/modSelect.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr int ImperialHint = 43, MetricHint = 44;
-
-}  // namespace
-
 // ---- what the editors ask of the window
 
 void frmMain::ShowPanel(Panel panel) {
@@ -107,11 +102,13 @@ int frmMain::HelpTopic() const {
   return topic != 0 ? topic : helpTopic_;
 }
 
+/// The units explain themselves to the mouse, and to Tab as long as the focus stays.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Enter) {
-    const int number = watched == optImperial_ ? ImperialHint : watched == optMetric_ ? MetricHint : 0;
-    ShowStatus(NumberedText(number), "");
-  }
+  const auto isStep = [event] { return IsTabStep(*static_cast<QFocusEvent*>(event)); };
+  const auto* option = qobject_cast<QRadioButton*>(watched);
+  const std::string hint = option ? option->accessibleDescription().toStdString() : std::string();
+  if (event->type() == QEvent::Enter || (event->type() == QEvent::FocusIn && isStep())) ShowStatus(hint, "");
+  if (event->type() == QEvent::FocusOut && lblStatus_->text() == ToQt(hint)) ShowStatus("", "");
   return QMainWindow::eventFilter(watched, event);
 }
 

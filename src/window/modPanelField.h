@@ -29,9 +29,9 @@ struct PanelField {
   BoxAct Act;
   Parameter Asked;  // of Ask
   int Text;         // numbered hint, or of MustUse the numbered text that names the owner; 0: none
-  std::string (*Shown)(const BandSaw& saw, const DisplayFormat& format);
-  void (*Take)(BandSaw& saw, std::string_view text) = nullptr;  // of Type: the text typed, UTF-8
-  int MostCharacters = 0;                                       // of Type
+  std::string (*Shown)(const BandSaw& saw, const DisplayFormat& format);  // empty for what is not set
+  void (*Take)(BandSaw& saw, std::string_view text) = nullptr;            // of Type: the text typed, UTF-8
+  int MostCharacters = 0;                                                 // of Type
 };
 
 /// The boxes of fraToothShape in the working order: style, length, teeth, pitch, width, angles, gullet, seat,
@@ -40,6 +40,10 @@ struct PanelField {
 
 /// The boxes of fraGeneral: its own first, then those that other editors own.
 [[nodiscard]] std::span<const PanelField> GeneralFields();
+
+/// What a box shows of a value that was accepted in its dialog: a zero, too, as the user has just given it.
+[[nodiscard]] std::string AcceptedText(const PanelField& field, const BandSaw& saw,
+                                       const DisplayFormat& format);
 
 /// How a box of fraToothShape stands for a tooth style and with or without a seat.
 enum class BoxState { Hidden, ReadOnly, Clickable };

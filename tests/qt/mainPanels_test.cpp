@@ -235,6 +235,7 @@ class mainPanelsTest : public QObject {
   void asksForTheGeneral_data();
   void asksForTheGeneral();
   void asksForTheSeat();
+  void tellsAZeroOnlyWhileItIsNew();
   void opensNoSeatBoxWithoutASeat();
   void opensNoClearanceWhereItIsAResult();
 
@@ -245,6 +246,7 @@ class mainPanelsTest : public QObject {
 
   void explainsTheTooth();
   void explainsTheGeneral();
+  void explainsTheUnitsByTab();
 
   void takesTypedTexts();
   void takesNothingByBeingOpened();
@@ -318,7 +320,8 @@ void mainPanelsTest::AskIn(const char* command) {
   for (const std::span<const PanelField> fields : {ToothFields(), GeneralFields()}) {
     for (const PanelField& field : fields) {
       auto* other = main_->Window->findChild<QLineEdit*>(ToQt(field.Control));
-      if (other) QCOMPARE(other->text(), ToQt(field.Shown(expected, format)));
+      const auto text = other == box ? AcceptedText(field, expected, format) : field.Shown(expected, format);
+      if (other) QCOMPARE(other->text(), ToQt(text));
     }
   }
   QVERIFY(main_->Program.Say.Shown.empty());
@@ -344,6 +347,42 @@ void mainPanelsTest::asksForTheSeat() {
   QTest::mouseClick(Named<QLabel>(*main_->Window, "lblSeat"), Qt::LeftButton);
   QCOMPARE(main_->Saw().SeatInfo.State, True);
   QCOMPARE(main_->User.Seen, QStringList({"frmBDialog: Seat", "frmBDialog: Seat", "frmBDialog: Seat"}));
+}
+
+// A zero is a measure that is not set; but who has just given one wants to see that it was taken.
+void mainPanelsTest::tellsAZeroOnlyWhileItIsNew() {
+  BandSaw design = test::FullDesign(RoundBack);
+  design.TipClear = 0;
+  main_->Open(design);
+  main_->Do("mnuItemToothShape");
+  QCOMPARE(main_->TextOf("txtTipClearance"), QString());
+  const auto give = [this](const char* box, const char* text) {
+    main_->User.Acts = {test::TypesAndEnters(text)};
+    auto* asked = Named<QLineEdit>(*main_->Window, box);
+    QVERIFY(main_->BringUp(asked));
+    QTest::mouseClick(asked, Qt::LeftButton);
+  };
+  give("txtHook", "0");
+  QCOMPARE(main_->TextOf("txtHook"), QString(" 0.000 deg"));
+  give("txtTipClearance", "0");
+  give("txtClear", "9");
+  QCOMPARE(main_->TextOf("txtHook"), QString(" 0.000 deg"));
+  QCOMPARE(main_->TextOf("txtTipClearance"), QString(" 0.000 in"));
+
+  test::Click(*main_->Window, "optMetric");  // no unit stays that is not in force
+  QCOMPARE(main_->TextOf("txtTipClearance"), QString());
+  give("txtTipClearance", "0");
+  QCOMPARE(main_->TextOf("txtTipClearance"), QString(" 0.000 mm"));
+  give("txtTipClearance", "2");
+  QCOMPARE(main_->TextOf("txtTipClearance"), QString(" 2.000 mm"));
+
+  test::Click(*main_->Window, "cmdToothOK");
+  main_->Do("mnuItemToothShape");
+  QCOMPARE(main_->TextOf("txtHook"), QString());
+  QCOMPARE(main_->TextOf("txtTipClearance"), QString(" 2.000 mm"));
+  main_->Do("mnuItemGeneral");
+  QCOMPARE(main_->TextOf("txtGenHook"), QString());
+  QVERIFY(main_->Program.Say.Shown.empty());
 }
 
 void mainPanelsTest::opensNoSeatBoxWithoutASeat() {
@@ -475,6 +514,18 @@ void mainPanelsTest::explainsTheGeneral() {
   main_->Open(test::VariableDesign());
   main_->Do("mnuItemGeneral");
   Explain(GeneralHints);
+}
+
+void mainPanelsTest::explainsTheUnitsByTab() {
+  main_->Open(test::FullDesign());
+  main_->PointAt(QPoint(40, 300));
+  auto* option = Named<QWidget>(*main_->Window, "optImperial");
+  QVERIFY(main_->TabTo(option));
+  QCOMPARE(main_->Status(), QString("Click to change to imperial measurements."));
+  QCOMPARE(option->accessibleDescription(), main_->Status());
+  QTest::keyClick(option, Qt::Key_Tab);
+  QVERIFY(!option->hasFocus());
+  QVERIFY(main_->Status() != option->accessibleDescription());
 }
 
 // ---- texts

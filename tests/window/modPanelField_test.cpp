@@ -373,22 +373,31 @@ const std::vector<ShownRow> Shown{{"txtToothStyle", " Triple Radius", " Triple R
 INSTANTIATE_TEST_SUITE_P(Each, BoxText, testing::ValuesIn(Shown),
                          [](const auto& row) { return std::string(row.param.Control); });
 
-TEST(BoxTexts, OfACompleteToothShowItsZeros) {
+TEST(BoxTexts, AreEmptyForZeroEvenOfACompleteTooth) {
   BandSaw saw;
-  saw.ContainsInfo.Teeth = True;
-  EXPECT_EQ(Find(ToothFields(), "txtHook")->Shown(saw, Inch), " 0.000 deg");
-  EXPECT_EQ(Find(ToothFields(), "txtTipClearance")->Shown(saw, Centimetre), " 0.000 mm");
-  EXPECT_EQ(General("txtGenHook").Shown(saw, Inch), " 0.000 deg");
-  EXPECT_EQ(General("txtKerf").Shown(saw, Inch), "");
-  EXPECT_EQ(General("txtGenWheelDia").Shown(saw, Inch), "");
+  saw.ContainsInfo = {True, True, True, True, {}};
+  for (const std::span<const PanelField> fields : {ToothFields(), GeneralFields()}) {
+    for (const PanelField& field : fields) {
+      const std::string shown = field.Shown(saw, Inch);
+      EXPECT_EQ(shown.find('0'), std::string::npos) << field.Control << shown;
+    }
+  }
 }
 
-TEST(BoxTexts, OfGeneralInformationThatIsThereShowItsZeros) {
-  BandSaw saw;
-  saw.ContainsInfo.General = True;
-  EXPECT_EQ(General("txtKerf").Shown(saw, Inch), " 0.000 in");
-  EXPECT_EQ(Find(ToothFields(), "txtToothKerf")->Shown(saw, Inch), " 0.000 in");
-  EXPECT_EQ(Find(ToothFields(), "txtHook")->Shown(saw, Inch), "");
+TEST(BoxTexts, TellAZeroThatWasJustAccepted) {
+  const BandSaw zero, set = Set();
+  const auto tooth = [](std::string_view control) { return *Find(ToothFields(), control); };
+  EXPECT_EQ(AcceptedText(tooth("txtHook"), zero, Inch), " 0.000 deg");
+  EXPECT_EQ(AcceptedText(tooth("txtLength"), zero, Centimetre), " 0.000 m");
+  EXPECT_EQ(AcceptedText(tooth("txtTipClearance"), zero, Centimetre), " 0.000 mm");
+  EXPECT_EQ(AcceptedText(General("txtKerf"), zero, Inch), " 0.000 in");
+  EXPECT_EQ(AcceptedText(tooth("txtLength"), set, Inch), " 20.000 ft");
+  // Of a choice there is no zero, and a result was never accepted.
+  EXPECT_EQ(AcceptedText(tooth("txtToothStyle"), zero, Inch), "");
+  EXPECT_EQ(AcceptedText(tooth("txtSeat"), zero, Inch), " No");
+  EXPECT_EQ(AcceptedText(tooth("txtGulletArea"), zero, Inch), "");
+  EXPECT_EQ(AcceptedText(General("txtTipType"), zero, Inch), " None");
+  EXPECT_EQ(AcceptedText(General("txtGenHook"), zero, Inch), "");
 }
 
 TEST(HelpTopic, IsThatOfTheDialog) {

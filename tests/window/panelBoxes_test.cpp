@@ -22,7 +22,7 @@ using EditorBoxes = EditorsTest;
 TEST_F(EditorBoxes, TakeAMeasureCalculateAndAreFilledAgain) {
   view_.Current = Panel::ToothShape;
   host_.Values = {test::Enters("30")};
-  editors_.ClickBox(Box("txtLength"));
+  EXPECT_TRUE(editors_.ClickBox(Box("txtLength")));
   EXPECT_EQ(Steps(), (Told{"DrawSaw", "FillBoxes"}));
   EXPECT_EQ(host_.Titles, std::vector<std::string>{"Band Saw Length"});
   EXPECT_EQ(design_.Saw.Length, 30);
@@ -65,7 +65,7 @@ TEST_F(EditorBoxes, ChangeNothingWhenTheDialogIsCancelled) {
       if (field.Act != BoxAct::Ask) continue;
       if (ToothBoxState(field, SquareBack, false) != BoxState::Clickable) continue;
       host_.Values = {test::Cancels()};
-      editors_.ClickBox(field);
+      EXPECT_FALSE(editors_.ClickBox(field)) << field.Control;
       EXPECT_EQ(ChangedFields(before, design_.Saw), Names{}) << field.Control;
       EXPECT_EQ(view_.Log(), Told{}) << field.Control;
       EXPECT_TRUE(host_.Values.empty()) << field.Control;

@@ -124,15 +124,35 @@ void FieldPanel::SetWidth(int panel, int more) {
   for (const Line& line : lines_) line.Box->setFixedWidth(box + more);
 }
 
+void FieldPanel::Write(QLineEdit& box, const QString& text) {
+  if (box.text() == text) return;
+  box.setText(text);
+  box.setCursorPosition(0);  // of a long text the beginning shows
+}
+
+/// A box that shows zero has the record's number, although a zero is not written.
+bool FieldPanel::KeepsZero(const Line& line, const BandSaw& saw, const DisplayFormat& format) const {
+  const auto* box = qobject_cast<MeasureBox*>(line.Box);
+  return box && isVisible() && !box->text().isEmpty() && line.Field->Shown(saw, format).empty() &&
+         box->text() == ToQt(AcceptedText(*line.Field, saw, format));
+}
+
 void FieldPanel::FillBoxes(const BandSaw& saw, const DisplayFormat& format) {
   for (const Line& line : lines_) {
+    if (KeepsZero(line, saw, format)) continue;
     const QString text = ToQt(line.Field->Shown(saw, format));
     if (auto* tick = qobject_cast<QCheckBox*>(line.Box)) {
       tick->setChecked(!text.isEmpty());
-    } else if (auto* box = static_cast<QLineEdit*>(line.Box); box->text() != text) {
-      box->setText(text);
-      box->setCursorPosition(0);  // of a long text the beginning shows
+    } else {
+      Write(*static_cast<QLineEdit*>(line.Box), text);
     }
+  }
+}
+
+void FieldPanel::ShowAccepted(const PanelField& field, const BandSaw& saw, const DisplayFormat& format) {
+  for (const Line& line : lines_) {
+    if (line.Field != &field) continue;
+    if (auto* box = qobject_cast<MeasureBox*>(line.Box)) Write(*box, ToQt(AcceptedText(field, saw, format)));
   }
 }
 

@@ -9,6 +9,7 @@
 #include "window/modPanelField.h"
 
 class QGridLayout;
+class QLineEdit;
 
 namespace tarnwick {
 
@@ -23,6 +24,9 @@ class FieldPanel : public PanelFrame {
   /// @param panel  the whole width
   /// @param more   what the boxes get of it beyond their least
   void SetWidth(int panel, int more);
+
+  /// Shows the value just accepted in a box, be it zero.
+  void ShowAccepted(const PanelField& field, const BandSaw& saw, const DisplayFormat& format);
 
  signals:
   void Pressed(const tarnwick::PanelField& field);  // a box or its caption
@@ -41,7 +45,7 @@ class FieldPanel : public PanelFrame {
   };
   FieldPanel(std::span<const PanelField> fields, Button ok, Button cancel, QWidget* parent);
 
-  /// Writes what differs, and fires nothing.
+  /// Writes what differs, and fires nothing. While the panel shows, a zero that the user has given stays.
   void FillBoxes(const BandSaw& saw, const DisplayFormat& format);
   void ShowState(const PanelField& field, BoxState state);
 
@@ -64,6 +68,8 @@ class FieldPanel : public PanelFrame {
   [[nodiscard]] QWidget* MakeBox(const PanelField& field);
   void MakePage(std::span<const PanelField> fields);
   void MakeFoot(Button ok, Button cancel);
+  static void Write(QLineEdit& box, const QString& text);
+  [[nodiscard]] bool KeepsZero(const Line& line, const BandSaw& saw, const DisplayFormat& format) const;
   [[nodiscard]] const Line* LineOf(const QObject* control) const;
   void TellHover(const QObject* control, bool isOver) override;
   void PressCaption(const Line& line, QEvent* event);

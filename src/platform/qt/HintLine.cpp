@@ -1,9 +1,10 @@
 #include "platform/qt/HintLine.h"
 
 #include <QEvent>
-#include <QFocusEvent>
 #include <QMouseEvent>
 #include <utility>
+
+#include "platform/qt/TabStep.h"
 
 namespace tarnwick {
 
@@ -58,12 +59,11 @@ bool HintLine::eventFilter(QObject* watched, QEvent* event) {
       Say(HintFor(control->window()->childAt(control->window()->mapFromGlobal(place))));
       break;
     }
-    case QEvent::FocusIn: {
-      const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-      const bool isStep = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-      if (isStep && control->hasFocus()) Say(HintFor(control));  // without it: a window that opens
+    case QEvent::FocusIn:
+      if (IsTabStep(*static_cast<QFocusEvent*>(event)) && control->hasFocus()) {
+        Say(HintFor(control));  // without the focus: a window that opens
+      }
       break;
-    }
     default:
       break;
   }

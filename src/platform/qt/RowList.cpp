@@ -14,6 +14,7 @@
 
 #include "platform/qt/QtText.h"
 #include "platform/qt/RowListAccess.h"
+#include "platform/qt/TabStep.h"
 #include "window/modRowScroll.h"
 #include "window/modSelect.h"
 
@@ -231,8 +232,7 @@ void RowList::keyPressEvent(QKeyEvent* event) {
 
 void RowList::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
-  const bool isStep = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-  if (isStep) StepTo(reached_, 1);
+  if (IsTabStep(*event)) StepTo(reached_, 1);
   emit FocusChanged();
 }
 
