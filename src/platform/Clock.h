@@ -21,9 +21,12 @@ class Clock {
 
   /// Comes back when the time is over. Windows repaint meanwhile; clicks and keys wait.
   virtual void Wait(std::chrono::milliseconds time) = 0;
+
+  /// The same, but a click of that time is not answered: what it was meant for may be gone by then.
+  virtual void WaitDeafToClicks(std::chrono::milliseconds time) { Wait(time); }
 };
 
-/// A moment in which a pressed button is seen to come up.
-inline void Pause(Clock& clock) { clock.Wait(std::chrono::milliseconds(250)); }
+/// A moment in which a pressed button is seen to come up. The second click of a double one falls into it.
+inline void Pause(Clock& clock) { clock.WaitDeafToClicks(std::chrono::milliseconds(250)); }
 
 }  // namespace tarnwick

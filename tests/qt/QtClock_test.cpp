@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -14,6 +15,10 @@ class QtClockTest : public QObject {
   void tellsTheTimeOfTheUser();
   void pausesForAQuarterOfASecond();
   void letsWindowsLiveMeanwhile();
+  void answersNoClickOfAPause();
+  void answersKeysAfterAPause();
+  void letsAHeldButtonComeUpAfterAPause();
+  void answersClicksAfterAPlainWait();
 };
 
 void QtClockTest::tellsTheTimeOfTheUser() {
@@ -40,6 +45,63 @@ void QtClockTest::letsWindowsLiveMeanwhile() {
   timer.start(10);
   QtClock().Wait(std::chrono::milliseconds(100));
   QVERIFY(ticks > 1);
+}
+
+namespace {
+
+/// A button in a window that shows, and how often it was pressed.
+struct Pressable {
+  Pressable() {
+    QObject::connect(&Button, &QPushButton::clicked, &Button, [this] { ++Times; });
+    Button.show();
+    if (!QTest::qWaitForWindowActive(&Button)) qFatal("no window");
+    QTest::qWait(20);  // no pause of another test counts any more
+    Button.setFocus();
+  }
+  QPushButton Button;
+  int Times = 0;
+};
+
+}  // namespace
+
+// What has waited comes as soon as the pause is over, ahead of everything that comes later.
+void QtClockTest::answersNoClickOfAPause() {
+  Pressable window;
+  QtClock clock;
+  Pause(clock);
+  QTest::mouseClick(&window.Button, Qt::LeftButton);
+  QTest::mouseDClick(&window.Button, Qt::LeftButton);
+  QCOMPARE(window.Times, 0);
+  QVERIFY(!window.Button.isDown());
+  QTest::qWait(20);
+  QTest::mouseClick(&window.Button, Qt::LeftButton);
+  QCOMPARE(window.Times, 1);
+}
+
+void QtClockTest::answersKeysAfterAPause() {
+  Pressable window;
+  QtClock clock;
+  Pause(clock);
+  QTest::keyClick(&window.Button, Qt::Key_Space);
+  QCOMPARE(window.Times, 1);
+}
+
+void QtClockTest::letsAHeldButtonComeUpAfterAPause() {
+  Pressable window;
+  QtClock clock;
+  QTest::mousePress(&window.Button, Qt::LeftButton);
+  Pause(clock);
+  QVERIFY(window.Button.isDown());
+  QTest::mouseRelease(&window.Button, Qt::LeftButton);
+  QVERIFY(!window.Button.isDown());
+  QCOMPARE(window.Times, 1);
+}
+
+void QtClockTest::answersClicksAfterAPlainWait() {
+  Pressable window;
+  QtClock().Wait(std::chrono::milliseconds(10));
+  QTest::mouseClick(&window.Button, Qt::LeftButton);
+  QCOMPARE(window.Times, 1);
 }
 
 }  // namespace tarnwick

@@ -9,6 +9,7 @@ class QtClock final : public Clock {
  public:
   [[nodiscard]] LocalTime Now() override;
   void Wait(std::chrono::milliseconds time) override;
+  void WaitDeafToClicks(std::chrono::milliseconds time) override;
 };
 
 }  // namespace tarnwick
