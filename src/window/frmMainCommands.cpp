@@ -25,10 +25,11 @@ constexpr const char* OtherWindows[] = {"frmAbout",   "frmAnime", "frmBandCalc",
                                         "frmCDialog", "frmCfg",   "frmColor",    "frmDialog",
                                         "frmGauge",   "frmPower", "frmPowerEst", "frmSplash"};
 
-/// A path as a menu shows it: "&" would mark an access key. A path that would push the menu across the screen
-/// loses its middle, so that the name at its end is read.
+/// A path as a menu shows it: "&" would mark an access key. A path that is too long for the screen loses its
+/// middle, so that the name at its end is read.
 QString MenuText(const std::string& path, const QMenu& menu) {
-  const int room = menu.screen()->availableSize().width() / 2;
+  const int edges = 8 * menu.fontMetrics().height();  // of the menu, with its icons
+  const int room = menu.screen()->availableSize().width() - edges;
   return menu.fontMetrics().elidedText(ToQt(path), Qt::ElideMiddle, room).replace('&', "&&");
 }
 

@@ -50,6 +50,7 @@ class mainDocumentTest : public QObject {
   void opensARecentFile();
   void showsTheRecentFilesOfYesterday();
   void showsNamesAsTheyAre();
+  void showsAPathThatFitsTheScreenWhole();
   void shortensALongPathInItsMiddle();
 
   void savesUnderItsName();
@@ -376,9 +377,23 @@ void mainDocumentTest::showsNamesAsTheyAre() {
   QCOMPARE(Caption(), QString("head[*] & tail.bsw - Tarnwick"));
 }
 
+void mainDocumentTest::showsAPathThatFitsTheScreenWhole() {
+  main_->OpenBlank();
+  const int letters = main_->Window->screen()->availableSize().width() * 3 / 4 /
+                      main_->Window->fontMetrics().horizontalAdvance('x');
+  const auto rest = static_cast<std::size_t>(letters) - Path("/head.bsw").size();
+  const std::string folder = Path(std::string(rest, 'x').c_str());
+  fs::create_directory(folder);
+  const std::string path = folder + PathSeparator + "head.bsw";
+  fs::copy_file(Stored("head.bsw"), path);
+  Choose({path});
+  main_->Do("mnuItemOpen");
+  QCOMPARE(RecentFiles(), QStringList{ToQt(path)});
+}
+
 void mainDocumentTest::shortensALongPathInItsMiddle() {
   main_->OpenBlank();
-  const std::string folder = Path(std::string(120, 'x').c_str());
+  const std::string folder = Path(std::string(200, 'x').c_str());
   fs::create_directory(folder);
   const std::string path = folder + PathSeparator + "head.bsw";
   fs::copy_file(Stored("head.bsw"), path);
@@ -388,7 +403,7 @@ void mainDocumentTest::shortensALongPathInItsMiddle() {
   QVERIFY(shown.startsWith(ToQt(Folder())) && shown.endsWith("head.bsw"));
   QVERIFY(shown.size() < ToQt(path).size());
   const auto* file = Named<QMenu>(*main_->Window, "mnuFile");
-  QVERIFY(file->sizeHint().width() < main_->Window->screen()->availableSize().width() * 3 / 4);
+  QVERIFY(file->sizeHint().width() <= main_->Window->screen()->availableSize().width());
   main_->Do("mnuItemNew");
   main_->Do("mnuRecentFiles(1)");
   QCOMPARE(Design().SawDir(), folder + PathSeparator);
