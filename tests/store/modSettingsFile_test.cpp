@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <chrono>
 
 #include "store/modReg.h"
 #include "store/modUserStore.h"
@@ -86,6 +87,18 @@ TEST_F(SettingsFileIn, ExistsWhenThereIsAFile) {
   EXPECT_TRUE(SettingsFile(folder_.Path()).KeyExists(App, Section));
   EXPECT_FALSE(SettingsFile(folder_.Path()).KeyExists(App, "Other"));
   EXPECT_FALSE(SettingsFile(folder_.Path()).KeyExists("Other", Section));
+}
+
+TEST_F(SettingsFileIn, IsNotWrittenAgainWhenItHoldsAllThatAlready) {
+  Write("Colour=3\n# mine\nUnits=1\n");
+  const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
+  fs::last_write_time(Path(), longAgo);
+  SettingsFile store(folder_.Path());
+  EXPECT_EQ(Save(store, {{"Units", "1"}, {"Colour", "3"}}), std::error_code());
+  EXPECT_EQ(fs::last_write_time(Path()), longAgo);
+  EXPECT_EQ(Save(store, {{"Units", "2"}}), std::error_code());
+  EXPECT_NE(fs::last_write_time(Path()), longAgo);
+  EXPECT_EQ(Bytes(), "Colour=3\n# mine\nUnits=2\n");
 }
 
 TEST_F(SettingsFileIn, ReadsALineForEachValue) {
