@@ -5,6 +5,10 @@
 
 namespace tarnwick {
 
+std::size_t TeethOnAllEdges(int last, bool bothEdges) {
+  return last < 0 ? 1 : (bothEdges ? 2U : 1U) * (static_cast<std::size_t>(last) + 1);
+}
+
 BandTeeth LayOutBand(const PlaneKit& kit, const BandSaw& saw, ToothProfile first,
                      const CalculationSettings& settings) {
   const int last = saw.NumTeeth;
@@ -14,7 +18,7 @@ BandTeeth LayOutBand(const PlaneKit& kit, const BandSaw& saw, ToothProfile first
   if (last >= 0) TranslateTooth(kit, first, first, 0, 0);
 
   BandTeeth teeth(kit, Teeth(1, first));
-  if (last > 0) teeth.Resize(static_cast<std::size_t>(last) + 1);
+  teeth.Reserve(TeethOnAllEdges(last, bothEdges));
   for (int i = 1; i <= last; ++i) teeth.Repeat(static_cast<std::size_t>(i), 0, saw.Pitch * i);
 
   JoinBand(kit, saw, teeth, last);

@@ -13,6 +13,9 @@ namespace tarnwick {
 [[nodiscard]] BandTeeth LayOutBand(const PlaneKit& kit, const BandSaw& saw, ToothProfile first,
                                    const CalculationSettings& settings);
 
+/// How many teeth a band has whose first edge ends with the tooth `last`.
+[[nodiscard]] std::size_t TeethOnAllEdges(int last, bool bothEdges);
+
 /// Turns the band around: all teeth up to `last` mirrored in reversed order, and moved back so that the left
 /// end is at X = 0.
 void MirrorBandX(BandTeeth& teeth, int last);

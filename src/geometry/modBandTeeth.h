@@ -41,6 +41,8 @@ class BandTeeth {
   void SetTooth(std::size_t index, const ToothProfile& tooth);
   /// Puts in the shape with the number `shape` once more, moved by `offset`. A band that is too short grows.
   void Repeat(std::size_t index, std::size_t shape, double offset);
+  /// Makes room for so many teeth.
+  void Reserve(std::size_t count) { places_.reserve(count); }
   /// Cuts the band off, or fills it up with teeth that have no pieces.
   void Resize(std::size_t count);
 

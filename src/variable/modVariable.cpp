@@ -176,6 +176,7 @@ BandTeeth LayOutVariableBand(const PlaneKit& kit, BandSaw& saw, const ToothProfi
   const int last = saw.NumTeeth;
   const bool bothEdges = base.BothEdges != False;
   const auto finish = [&](const SegmentLayout& layout, BandTeeth& band) {
+    band.Reserve(TeethOnAllEdges(last, bothEdges));
     layout.RepeatSegment(band);
     TrimToCount(band, last + 1);
     JoinBand(kit, saw, band, last);
