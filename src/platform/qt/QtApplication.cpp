@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStyle>
 
+#include "platform/qt/WideRegisters.h"
 #include "version.h"
 
 namespace tarnwick {
@@ -20,6 +21,7 @@ void SetUpApplication(QApplication& application) {
   // No display name: the toolkit would append it to captions that carry the program's name already.
   QGuiApplication::setDesktopFileName("org.tarnwick.Tarnwick");
   if (application.style()->name() == FallbackStyle) QApplication::setStyle("Fusion");
+  ReleaseWideRegistersForEvents(application);
 }
 
 }  // namespace tarnwick

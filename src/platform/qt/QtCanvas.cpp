@@ -9,6 +9,8 @@
 
 #include "platform/qt/SeenLines.h"
 
+#include "platform/qt/WideRegisters.h"
+
 namespace tarnwick {
 namespace {
 
@@ -64,6 +66,7 @@ void QtCanvas::Clear(Colour background) {
   lines_.clear();
   bars_.clear();
   painter_.fillRect(QRectF(QPointF(0, 0), size_), ToQt(background));
+  ReleaseWideRegisters();
 }
 
 void QtCanvas::SetPen(Colour colour, PenStyle style) {
@@ -132,6 +135,11 @@ void QtCanvas::Text(Spot topLeft, std::string_view text) {
 void QtCanvas::Flush() {
   if (!lines_.empty()) painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
   lines_.clear();
+  FlushBars();
+  ReleaseWideRegisters();
+}
+
+void QtCanvas::FlushBars() {
   if (bars_.empty()) return;
   const QPen pen = painter_.pen();
   painter_.setPen(Qt::NoPen);
@@ -147,7 +155,10 @@ void QtCanvas::Flush() {
 // A chain of its own is one short path, without beads where its chords meet.
 void QtCanvas::DrawChain(const std::vector<QPointF>& chain) {
   if (chain.size() == 2) lines_.emplace_back(chain[0], chain[1]);
-  if (chain.size() > 2) painter_.drawPolyline(chain.data(), static_cast<int>(chain.size()));
+  if (chain.size() > 2) {
+    painter_.drawPolyline(chain.data(), static_cast<int>(chain.size()));
+    ReleaseWideRegisters();
+  }
 }
 
 }  // namespace tarnwick

@@ -35,6 +35,7 @@ class QtCanvas final : public Canvas {
 
  private:
   void Flush();
+  void FlushBars();
   void DrawChain(const std::vector<QPointF>& chain);
 
   QPainter& painter_;
