@@ -1,5 +1,7 @@
 #include <benchmark/benchmark.h>
 
+#include <utility>
+
 #include "bands.h"
 #include "floor.h"
 #include "model/modZoom.h"
@@ -41,6 +43,19 @@ void CalculateStyle(benchmark::State& state) {
             ResawBand(static_cast<ToothStyleNumber>(state.range(1)), static_cast<int>(state.range(0))));
 }
 
+/// As the window does it: the list of the last calculation serves again.
+void CalculateDearestAgain(benchmark::State& state) {
+  const BandSaw design = DearestBand(static_cast<int>(state.range(0)));
+  NobodyListens nobody;
+  EntityList list;
+  for (auto _ : state) {
+    BandSaw saw = design;
+    list = CalculateSaw(saw, RoomySettings, nobody, std::move(list));
+    benchmark::DoNotOptimize(list.Entities.data());
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(BytesOf(list)) * state.iterations());
+}
+
 void CalculateVariable(benchmark::State& state) {
   Calculate(state, VariableBand(static_cast<ToothStyleNumber>(state.range(1)),
                                 static_cast<int>(state.range(0)) / 5));
@@ -68,6 +83,7 @@ BENCHMARK(CalculateStyle)
                    {SquareBack, RoundBack, DoubleRadius, TripleRadius, FlatBottom, NarrowStyle, OShape,
                     FrostTooth}})
     ->ArgNames({"teeth", "style"});
+BENCHMARK(CalculateDearestAgain)->Arg(UsualTeeth)->Arg(MostTeeth);
 BENCHMARK(CalculateVariable)
     ->ArgsProduct({{UsualTeeth, MostTeeth}, {RoundBack, TripleRadius, FrostTooth}})
     ->ArgNames({"teeth", "style"});

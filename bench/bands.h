@@ -7,7 +7,8 @@
 // What all measurements share: bands of any number of teeth, and their drawings.
 namespace tarnwick::bench {
 
-inline constexpr int UsualTeeth = 137;   // of a 20 ft band at 1 3/4 in
+inline constexpr int UsualTeeth = 137;  // of a 20 ft band at 1 3/4 in
+inline constexpr int ManyTeeth = 1000;
 inline constexpr int MostTeeth = 32000;  // close to what the record can count
 
 /// Pairs for the longest band with teeth on both edges: past what a user can set, so that its text can be
@@ -55,6 +56,16 @@ inline BandSaw VariableBand(ToothStyleNumber style, int segments) {
   saw.GeneralInfo.VarPitch = pitches;
   saw.GeneralInfo.VariableDepth = True;
   saw.GeneralInfo.VarDepth = depths;
+  return saw;
+}
+
+/// The style with the most arcs, on both edges: the dearest list there is.
+inline BandSaw DearestBand(int teeth) {
+  BandSaw saw = ResawBand(TripleRadius, teeth);
+  saw.GulletInfo.Radius1 = 0.25;
+  saw.GulletInfo.Radius2 = 0.5;
+  saw.GulletInfo.Radius3 = 0.375;
+  saw.BothEdges = True;
   return saw;
 }
 

@@ -18,16 +18,9 @@ const EntityList& RoundBackBand() {
   return list;
 }
 
-/// The style with the most arcs, on both edges: more than anybody's settings let be saved.
-const EntityList& DearestBand() {
-  static const EntityList list = [] {
-    BandSaw saw = ResawBand(TripleRadius, MostTeeth);
-    saw.GulletInfo.Radius1 = 0.25;
-    saw.GulletInfo.Radius2 = 0.5;
-    saw.GulletInfo.Radius3 = 0.375;
-    saw.BothEdges = True;
-    return DrawingOf(saw);
-  }();
+/// More than anybody's settings let be saved.
+const EntityList& DearestDrawing() {
+  static const EntityList list = DrawingOf(DearestBand(MostTeeth));
   return list;
 }
 
@@ -57,7 +50,7 @@ void PaintRoundBack(benchmark::State& state) {
         static_cast<double>(state.range(0)));
 }
 void PaintDearest(benchmark::State& state) {
-  Paint(state, DearestBand(), static_cast<double>(state.range(1)) / 1000,
+  Paint(state, DearestDrawing(), static_cast<double>(state.range(1)) / 1000,
         static_cast<double>(state.range(0)));
 }
 

@@ -70,14 +70,8 @@ EntityList Band(const benchmark::State& state) {
   return DrawingOf(ResawBand(RoundBack, static_cast<int>(state.range(0))));
 }
 
-/// The style with the most arcs, on both edges: the dearest list there is.
-EntityList DearestBand(const benchmark::State& state) {
-  BandSaw saw = ResawBand(TripleRadius, static_cast<int>(state.range(0)));
-  saw.GulletInfo.Radius1 = 0.25;
-  saw.GulletInfo.Radius2 = 0.5;
-  saw.GulletInfo.Radius3 = 0.375;
-  saw.BothEdges = True;
-  return DrawingOf(saw);
+EntityList DearestDrawing(const benchmark::State& state) {
+  return DrawingOf(DearestBand(static_cast<int>(state.range(0))));
 }
 
 void RedrawViewAll(benchmark::State& state) {
@@ -89,13 +83,13 @@ void RedrawTrueSize(benchmark::State& state) { Redraw(state, Band(state), 1); }
 void RedrawTenfold(benchmark::State& state) { Redraw(state, Band(state), 10); }
 
 void RedrawDearestViewAll(benchmark::State& state) {
-  const EntityList list = DearestBand(state);
+  const EntityList list = DearestDrawing(state);
   Redraw(state, list, ScaleOfViewAll(list));
 }
 
 /// Every zoom between the whole band and its teeth; the argument is thousandths of the true size.
 void RedrawBetween(benchmark::State& state) {
-  const EntityList list = DearestBand(state);
+  const EntityList list = DearestDrawing(state);
   Redraw(state, list, static_cast<double>(state.range(1)) / 1000);
 }
 

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "platform/qt/DocumentsFolder.h"
 #include "platform/qt/DrawingSurface.h"
@@ -43,7 +44,8 @@ int RunMain(int argc, char** argv) {
   tarnwick::SetUpApplication(application);
   tarnwick::QtSurroundings surroundings;
   tarnwick::Program program(surroundings.All(), tarnwick::UserStateFolder());
-  program.Start(tarnwick::DocumentsFolder(), tarnwick::CommandFile(argc - 1, argv + 1));
+  const std::string design = tarnwick::CommandFile(argc - 1, argv + 1);
+  program.Start(tarnwick::DocumentsFolder(), design);
   tarnwick::QtHosts hosts(surroundings.Help);
   tarnwick::frmMain window(program, hosts.All());
   const auto* surface = window.findChild<tarnwick::DrawingSurface*>("PicEditor");
