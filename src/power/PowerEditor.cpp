@@ -166,7 +166,9 @@ std::optional<PowerEstimateList> PowerEditor::Estimates() {
     program_.Out.Say.Show(SelectPercent());
     return std::nullopt;
   }
-  return PowerEstimateList(*rows, percent, FeedIndex(), program_.Design.Format());
+  PowerEstimateList estimates(FeedIndex(), program_.Design.Format());
+  estimates.GetPowerReq(*rows, percent);
+  return estimates;
 }
 
 void PowerEditor::PressView() {

@@ -10,10 +10,15 @@ namespace tarnwick {
 /// The estimates as a list of lines that scrolls; frmPowerEst is its window.
 class PowerEstimateList {
  public:
-  /// @param percent    by which the feed rate rises; shown without its decimals
-  /// @param feedIndex  GulletFeedIndex as it was when the rows were built
-  PowerEstimateList(const PowerEstimates& rows, double percent, double feedIndex, const DisplayFormat& format)
-      : rows_(rows), percent_(percent), feedIndex_(feedIndex), format_(format) {}
+  /// @param feedIndex  GulletFeedIndex, the one that the rows are built with
+  PowerEstimateList(double feedIndex, const DisplayFormat& format) : feedIndex_(feedIndex), format_(format) {}
+
+  /// Takes what it shows.
+  /// @param percent  by which the feed rate rises; its whole part counts
+  void GetPowerReq(const PowerEstimates& rows, double percent) {
+    rows_ = rows;
+    percent_ = percent;
+  }
 
   [[nodiscard]] std::string Heading() const { return EstimateHeading(percent_, LinesFor::Window); }
   [[nodiscard]] static std::string_view Note() { return EstimateNote; }  // of lblNote
@@ -23,12 +28,6 @@ class PowerEstimateList {
   [[nodiscard]] std::string PaperHeading() const { return EstimateHeading(percent_, LinesFor::Paper); }
   [[nodiscard]] PowerLines PaperLines() const { return Lines(LinesFor::Paper); }
 
-  /// How far vscPowerInfo goes, from 0: the height of all lines less that of picContain, in the unit of both.
-  /// 0 when all lines fit, and the bar is hidden then. The top of the lines is minus the bar's value.
-  [[nodiscard]] static int ScrollRange(int linesHeight, int containHeight) {
-    return linesHeight > containHeight ? linesHeight - containHeight : 0;
-  }
-
   void PressOk() { open_ = false; }  // and the window's own button
   [[nodiscard]] bool IsOpen() const { return open_; }
 
@@ -37,8 +36,9 @@ class PowerEstimateList {
     return EstimateLines(rows_, feedIndex_, format_, place);
   }
 
-  PowerEstimates rows_;
-  double percent_, feedIndex_;
+  PowerEstimates rows_{};
+  double percent_ = 0;
+  double feedIndex_;
   DisplayFormat format_;
   bool open_ = true;
 };

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -77,14 +78,53 @@ class LinePainter final : public QStyledItemDelegate {
   int label_ = 0, text_ = 0, heading_ = 0;  // widths
 };
 
-/// As wide as its lines, and as high as a good part of them.
-class LineList final : public QListWidget {
+/// All lines at their full height. What they stand in moves them.
+class LineSheet final : public QListWidget {
  public:
+  LineSheet() {
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAutoScroll(false);
+  }
+
+  [[nodiscard]] int LineHeight() const { return sizeHintForRow(0); }
+  [[nodiscard]] QSize sizeHint() const override { return {sizeHintForColumn(0), count() * LineHeight()}; }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  /// A page is what shows of the sheet, not the whole of it.
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers keys) override {
+    const bool isUp = action == MovePageUp;
+    if (!isUp && action != MovePageDown) return QListWidget::moveCursor(action, keys);
+    const int page = std::max(parentWidget()->height() / LineHeight() - 1, 1);
+    int row = std::clamp(currentRow() + (isUp ? -page : page), 0, count() - 1);
+    while (item(row)->flags() == Qt::NoItemFlags) row += isUp ? -1 : 1;  // neither end is a blank line
+    return model()->index(row, 0);
+  }
+};
+
+/// As wide as the lines in it, and as high as a good part of them.
+class LineRoom final : public QScrollArea {
+ public:
+  explicit LineRoom(LineSheet* lines) : lines_(lines) {
+    setWidget(lines);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    connect(lines, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* now) {
+      const QRect line = lines_->visualItemRect(now);
+      if (now) ensureVisible(0, line.center().y(), 0, line.height());
+    });
+  }
+
   [[nodiscard]] QSize sizeHint() const override {
     const int frame = 2 * frameWidth();
-    return {sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + frame,
-            std::min(LinesShown, std::max(count(), 1)) * sizeHintForRow(0) + frame};
+    return {lines_->sizeHint().width() + verticalScrollBar()->sizeHint().width() + frame,
+            std::min(LinesShown, std::max(lines_->count(), 1)) * lines_->LineHeight() + frame};
   }
+
+ private:
+  LineSheet* lines_;
 };
 
 /// A line for those who listen, to whom an asterisk says nothing.
@@ -114,17 +154,18 @@ frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, QWidget
   picPowerEst_->setFocus();
 }
 
-QListWidget* frmPowerEst::MakeLines() {
-  picPowerEst_ = new LineList;
-  picPowerEst_->setObjectName("picPowerEst");
-  picPowerEst_->setAccessibleName(tr("Power estimates"));
-  picPowerEst_->viewport()->setObjectName("picContain");
-  picPowerEst_->verticalScrollBar()->setObjectName("vscPowerInfo");
-  picPowerEst_->verticalScrollBar()->setAccessibleName(tr("Move the estimates"));
-  picPowerEst_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-  picPowerEst_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  picPowerEst_->setItemDelegate(new LinePainter(picPowerEst_));
-  return picPowerEst_;
+QWidget* frmPowerEst::MakeLines() {
+  auto* lines = new LineSheet;
+  lines->setObjectName("picPowerEst");
+  lines->setAccessibleName(tr("Power estimates"));
+  lines->setItemDelegate(new LinePainter(lines));
+  picPowerEst_ = lines;
+
+  auto* room = new LineRoom(lines);
+  room->viewport()->setObjectName("picContain");
+  room->verticalScrollBar()->setObjectName("vscPowerInfo");
+  room->verticalScrollBar()->setAccessibleName(tr("Move the estimates"));
+  return room;
 }
 
 void frmPowerEst::DisplayPowerSets() {

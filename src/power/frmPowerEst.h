@@ -25,7 +25,7 @@ class frmPowerEst final : public FormWindow {
   void done(int result) override;
 
  private:
-  QListWidget* MakeLines();
+  QWidget* MakeLines();
   QHBoxLayout* MakeFoot();
 
   PowerEstimateList& estimates_;

@@ -121,10 +121,13 @@ TEST(EstimateNote, ExplainsTheMark) {
   EXPECT_EQ(PowerEstimateList::Note(), "Note: Changes have an asterisk * displayed beside the value.");
 }
 
-TEST(PowerEstimateList, ScrollsWhatDoesNotFit) {
-  EXPECT_EQ(PowerEstimateList::ScrollRange(900, 400), 500);
-  EXPECT_EQ(PowerEstimateList::ScrollRange(400, 400), 0);
-  EXPECT_EQ(PowerEstimateList::ScrollRange(300, 400), 0);
+TEST(PowerEstimateList, ShowsWhatItIsGiven) {
+  PowerEstimateList list(0.7, {});
+  list.GetPowerReq(TenPercent(), 10.9);
+  EXPECT_EQ(list.Heading(), "Power estimates based on increasing feedrate by 10 percent.");
+  EXPECT_EQ(list.PaperHeading(), "Estimates for bandsaw based on increasing feedrate by 10 percent");
+  EXPECT_EQ(list.Lines(), Lines(LinesFor::Window));
+  EXPECT_EQ(list.PaperLines(), Lines(LinesFor::Paper));
 }
 
 TEST(CalculationLines, ShowACalculationOfTheCalculator) {

@@ -38,7 +38,8 @@ void QtPowerHostTest::runsTheEditor() {
 
 void QtPowerHostTest::runsTheEstimates() {
   const auto rows = BuildPowerEstimates(test::PowerDesign(), 10, {5, 0.7});
-  PowerEstimateList estimates(*rows, 10, 0.7, DisplayFormat{});
+  PowerEstimateList estimates(0.7, DisplayFormat{});
+  estimates.GetPowerReq(*rows, 10);
   bench_.User.Acts = {test::Escapes()};
   bench_.Windows.Run(estimates);
   QVERIFY(!estimates.IsOpen());

@@ -35,6 +35,7 @@ class frmPowerEstTest : public QObject {
   void movesTheLinesByTheBar();
   void hidesTheBarWhenAllLinesFit();
   void isReadByKeys();
+  void isReadByPages();
   void turnsByTheWheel();
   void tellsItsLines();
 
@@ -74,7 +75,8 @@ void frmPowerEstTest::Open(double percent) {
   saw.GulletInfo.Bite = 0.025;
   const auto rows = BuildPowerEstimates(saw, percent, {5, 0.7});
   QVERIFY(rows.has_value());
-  estimates_ = std::make_unique<PowerEstimateList>(*rows, percent, 0.7, DisplayFormat{});
+  estimates_ = std::make_unique<PowerEstimateList>(0.7, DisplayFormat{});
+  estimates_->GetPowerReq(*rows, percent);
   window_ = std::make_unique<frmPowerEst>(*estimates_, bench_->Program.Help);
   list_ = Find<QListWidget>("picPowerEst");
   bar_ = Find<QScrollBar>("vscPowerInfo");
@@ -162,22 +164,25 @@ void frmPowerEstTest::movesTheLinesByTheBar() {
   Open();
   QVERIFY(bar_->isVisible());
   const auto* contain = Find<QWidget>("picContain");
+  QCOMPARE(list_->parentWidget(), contain);
   const int height = list_->visualItemRect(list_->item(Lines - 1)).bottom() + 1;
+  QCOMPARE(list_->height(), height);
   QCOMPARE(bar_->minimum(), 0);
-  QCOMPARE(bar_->maximum(), PowerEstimateList::ScrollRange(height, contain->height()));
-  for (const int value : {1, 57, bar_->maximum()}) {
+  QCOMPARE(bar_->maximum(), height - contain->height());
+  for (const int value : {0, 1, 57, bar_->maximum()}) {
     bar_->setValue(value);
-    QCOMPARE(list_->visualItemRect(list_->item(0)).top(), -value);
+    QCOMPARE(list_->y(), -value);
   }
-  QCOMPARE(list_->visualItemRect(list_->item(Lines - 1)).bottom(), contain->height() - 1);
+  QCOMPARE(list_->geometry().bottom(), contain->height() - 1);  // the last line is in sight
 }
 
 void frmPowerEstTest::hidesTheBarWhenAllLinesFit() {
   Open();
+  bar_->setValue(57);
   window_->resize(window_->width(), 2000);
   QTRY_VERIFY(!bar_->isVisible());
   QCOMPARE(bar_->maximum(), 0);
-  QCOMPARE(list_->visualItemRect(list_->item(0)).top(), 0);
+  QCOMPARE(list_->y(), 0);
 }
 
 void frmPowerEstTest::isReadByKeys() {
@@ -192,21 +197,47 @@ void frmPowerEstTest::isReadByKeys() {
   QTest::keyClick(list_, Qt::Key_End);
   QCOMPARE(Current(), Lines - 1);
   QCOMPARE(bar_->value(), bar_->maximum());
-  QTest::keyClick(list_, Qt::Key_PageUp);
-  QVERIFY(Current() < Lines - 10);
   QTest::keyClick(list_, Qt::Key_Home);
   QCOMPARE(Current(), 0);
   QCOMPARE(bar_->value(), 0);
 }
 
+/// Down to the end and up again; each page has its line in sight, and no line is left out between two of
+/// them.
+void frmPowerEstTest::isReadByPages() {
+  Open();
+  const auto* contain = Find<QWidget>("picContain");
+  const int page = contain->height() / list_->sizeHintForRow(0);
+  for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageUp}) {
+    const int end = key == Qt::Key_PageDown ? Lines - 1 : 0;
+    int steps = 0;
+    for (; Current() != end && steps < Lines; ++steps) {
+      const int before = Current();
+      QTest::keyClick(list_, key);
+      QVERIFY(Current() != before && std::abs(Current() - before) <= page);
+      const QRect line = list_->visualItemRect(list_->currentItem()).translated(list_->pos());
+      QVERIFY(contain->rect().contains(line));
+      QVERIFY(!list_->currentItem()->text().isEmpty());
+    }
+    QVERIFY(steps >= 2);
+    QTest::keyClick(list_, key);  // there is nothing beyond
+    QCOMPARE(Current(), end);
+  }
+}
+
+/// The mouse is over the lines, whichever of the two is asked.
 void frmPowerEstTest::turnsByTheWheel() {
   Open();
-  auto* surface = Find<QWidget>("picContain");
-  const QPointF place = surface->rect().center();
-  QWheelEvent turn(place, surface->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                   false);
-  QApplication::sendEvent(surface, &turn);
-  QVERIFY(bar_->value() > 0);
+  int value = 0;
+  for (QWidget* surface : {Find<QWidget>("picContain"), list_->viewport()}) {
+    const QPointF place(20, 20);
+    QWheelEvent turn(place, surface->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                     false);
+    QSpontaneKeyEvent::setSpontaneous(&turn);  // as from the desktop: others are not handed on
+    QApplication::instance()->notify(surface, &turn);
+    QVERIFY(bar_->value() > value);
+    value = bar_->value();
+  }
 }
 
 /// A reader of the screen finds a list, and in it each line with what has changed in words.
