@@ -104,10 +104,10 @@ int frmMain::HelpTopic() const {
 
 /// The units explain themselves to the mouse, and to Tab as long as the focus stays.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-  const auto isStep = [event] { return IsTabStep(*static_cast<QFocusEvent*>(event)); };
   const auto* option = qobject_cast<QRadioButton*>(watched);
   const std::string hint = option ? option->accessibleDescription().toStdString() : std::string();
-  if (event->type() == QEvent::Enter || (event->type() == QEvent::FocusIn && isStep())) ShowStatus(hint, "");
+  if (event->type() == QEvent::Enter || (event->type() == QEvent::FocusIn && IsTabStep(*event)))
+    ShowStatus(hint, "");
   if (event->type() == QEvent::FocusOut && lblStatus_->text() == ToQt(hint)) ShowStatus("", "");
   return QMainWindow::eventFilter(watched, event);
 }

@@ -526,6 +526,15 @@ void mainPanelsTest::explainsTheUnitsByTab() {
   QTest::keyClick(option, Qt::Key_Tab);
   QVERIFY(!option->hasFocus());
   QVERIFY(main_->Status() != option->accessibleDescription());
+
+  // A panel that goes hands its focus on, as if by Tab.
+  main_->Do("mnuItemToothShape");
+  main_->PointAt(QPoint(40, 300));
+  auto* ok = Named<QWidget>(*main_->Window, "cmdToothOK");
+  QVERIFY(main_->TabTo(ok));
+  QTest::keyClick(ok, Qt::Key_Space);
+  QCOMPARE(main_->Panel(), QString("fraMain"));
+  QCOMPARE(main_->Status(), QString());
 }
 
 // ---- texts

@@ -60,7 +60,7 @@ bool HintLine::eventFilter(QObject* watched, QEvent* event) {
       break;
     }
     case QEvent::FocusIn:
-      if (IsTabStep(*static_cast<QFocusEvent*>(event)) && control->hasFocus()) {
+      if (IsTabStep(*event) && control->hasFocus()) {
         Say(HintFor(control));  // without the focus: a window that opens
       }
       break;

@@ -1,7 +1,6 @@
 #include "platform/qt/PanelFrame.h"
 
 #include <QEvent>
-#include <QFocusEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,6 +11,7 @@
 
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/TabStep.h"
 #include "shell/modString.h"
 
 namespace tarnwick {
@@ -19,11 +19,6 @@ namespace {
 
 constexpr int HeadingGap = 10;  // above a heading
 constexpr int FootGap = 8;
-
-bool IsTabStep(const QEvent* event) {
-  const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
-  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-}
 
 }  // namespace
 
@@ -108,14 +103,14 @@ bool PanelFrame::eventFilter(QObject* watched, QEvent* event) {
       TellHover(watched, false);
       break;
     case QEvent::FocusIn:
-      if (!IsTabStep(event)) break;  // a box that moved under the mouse would miss its release
+      if (!IsTabStep(*event)) break;  // a box that moved under the mouse would miss its release
       TellHover(watched, true);
       if (auto* control = qobject_cast<QWidget*>(watched); control && page_->isAncestorOf(control)) {
         area_->ensureWidgetVisible(control, 0, HeadingGap);
       }
       break;
     case QEvent::FocusOut:
-      if (IsTabStep(event)) TellHover(watched, false);
+      if (IsTabStep(*event)) TellHover(watched, false);
       break;
     default:
       break;
