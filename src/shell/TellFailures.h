@@ -7,8 +7,8 @@
 
 namespace tarnwick {
 
-/// Does what may fail. A failure that it has no words for (of memory, of the system) ends it and is told by
-/// its number.
+/// Does what may fail. A failure that it has no words for (of memory, of the system, of its own) ends it and
+/// is told by its number.
 /// @param activity   title of the message: what was being done
 /// @param procedure  the command's name
 void TellFailures(Messages& say, std::string_view activity, std::string_view procedure,

@@ -53,5 +53,13 @@ TEST_F(Commands, EndWithTheNumberOfWhatTheSystemRefuses) {
                                                    failure.message() + "\nSub Program mnuItemOpen"});
 }
 
+TEST_F(Commands, EndWithAMessageInsteadOfTheProgram) {
+  const std::error_code failure = std::make_error_code(std::errc::invalid_argument);
+  commands_.Run("mnuItemAll", [] { (void)std::vector<int>().at(1); });
+  EXPECT_EQ(say_.Texts(), std::vector<std::string>{"Error Number: " + std::to_string(failure.value()) + '\n' +
+                                                   failure.message() + "\nSub Program mnuItemAll"});
+  EXPECT_FALSE(commands_.IsRunning());
+}
+
 }  // namespace
 }  // namespace tarnwick
