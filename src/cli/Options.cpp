@@ -132,12 +132,13 @@ CLI::App& AddPdf(CLI::App& app, Options& options) {
   AddOutput(pdf, options, ".pdf");
   const std::map<std::string, SawPages> pages{
       {"both", SawPages::Both}, {"drawing", SawPages::SawDrawing}, {"info", SawPages::SawInfo}};
-  pdf.add_option_function<SawPages>(
-         "--pages", [&options](const SawPages& chosen) { options.Pages = chosen; },
+  pdf.add_option(
+         "--pages",
          "Write the information sheet, the drawing in true size, or both; without it both, and the segment\n"
          "of a variable pitch band over as many sheets as it takes")
       ->type_name("both|drawing|info")
-      ->transform(CLI::Transformer(pages));
+      ->check(CLI::IsMember(pages))
+      ->each([&options, pages](const std::string& chosen) { options.Pages = pages.at(chosen); });
   return pdf;
 }
 

@@ -16,7 +16,9 @@ namespace tarnwick {
 namespace {
 
 constexpr int Margin = 24;
+constexpr int Gap = 2;
 constexpr int IconSize = 48;
+constexpr int LettersShown = 24;
 constexpr int MostWait = 1000;  // ms; some desktops never show a window while the program is busy
 
 QLabel* MakeLabel(const char* name, const QString& text) {
@@ -45,8 +47,10 @@ frmPrintMsg::frmPrintMsg(QWidget* parent)
   large.setBold(true);
   lblPrinting->setFont(large);
   lblPage_ = MakeLabel("lblPage", QString());
+  lblPage_->setMinimumWidth(LettersShown * fontMetrics().averageCharWidth());
 
   auto* words = new QVBoxLayout;
+  words->setSpacing(Gap);
   words->addStretch();
   words->addWidget(lblPrinting);
   words->addWidget(lblPage_);

@@ -36,7 +36,10 @@ QBoxLayout* PrinterForm::MakePrinters() {
   cboPrinters_ = new QComboBox;
   cboPrinters_->setObjectName("cboPrinters");
   cboPrinters_->setAccessibleName(tr("Printer"));
-  for (const std::string& printer : choice_.Printers()) cboPrinters_->addItem(ToQt(printer));
+  for (const std::string& printer : choice_.Printers()) {
+    cboPrinters_->addItem(ToQt(printer));
+    cboPrinters_->setItemData(cboPrinters_->count() - 1, ToQt(printer), Qt::ToolTipRole);
+  }
   cboPrinters_->setCurrentIndex(static_cast<int>(choice_.Selected()));
   cboPrinters_->setMinimumContentsLength(LettersShown);
   cboPrinters_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -77,8 +80,11 @@ void PrinterForm::Arrange(QWidget* between, QCheckBox* quality, QPushButton* set
   column->setSpacing(Margin);
   column->addLayout(MakePrinters());
   if (between) column->addWidget(between);
-  if (quality) column->addWidget(quality);
-  column->addWidget(chkSavePrinter_);
+  auto* ticks = new QVBoxLayout;
+  ticks->setSpacing(Gap);
+  if (quality) ticks->addWidget(quality);
+  ticks->addWidget(chkSavePrinter_);
+  column->addLayout(ticks);
   column->addStretch();
   FormWindow::Arrange(column, MakeFoot(setup));
   cboPrinters_->setFocus();

@@ -99,6 +99,8 @@ def driver():
         for paper, (width, height) in PAPER.items():
             inside = f"{border} {border} {width - border} {height - border}" if border else f"{width} {height}"
             lines.append(f'*{name} {paper}: "{inside}"\n')
+    lines.append("*OpenUI *Duplex: PickOne\n*OrderDependency: 15 AnySetup *Duplex\n*DefaultDuplex: None\n"
+                 '*Duplex None: ""\n*Duplex DuplexNoTumble: ""\n*Duplex DuplexTumble: ""\n*CloseUI: *Duplex\n')
     lines.append("*OpenUI *Resolution: PickOne\n*OrderDependency: 20 AnySetup *Resolution\n"
                  '*DefaultResolution: 600dpi\n*Resolution 600dpi: ""\n*CloseUI: *Resolution\n'
                  '*DefaultFont: Courier\n*Font Courier: Standard "(002.004S)" Standard ROM\n')
