@@ -1,11 +1,9 @@
 #include "machine/frmBandCalc.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -154,8 +152,11 @@ MeasureBox* frmBandCalc::MakeLength(int row) {
   box->setObjectName(ArrayName("txtLength", row));
   box->setAccessibleName(Spoken(ToQt(LengthCaptions[row])));
   box->SetOpens(row == OwnLength);
-  box->installEventFilter(this);
-  if (row == OwnLength) SetTopic(box, RowOf(Parameter::BandLength).HelpTopic);
+  if (row == OwnLength) {
+    SetTopic(box, RowOf(Parameter::BandLength).HelpTopic);
+  } else {
+    box->PassEnterOn();
+  }
   connect(box, &MeasureBox::Pressed, this, [this, row] {
     calculator_.ClickLength(row);
     ShowState();
@@ -203,18 +204,6 @@ QHBoxLayout* frmBandCalc::MakeButtons() {
 void frmBandCalc::reject() {
   calculator_.PressCancel();
   FormWindow::reject();
-}
-
-/// Enter in a length that is only read is the window's.
-bool frmBandCalc::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && watched != txtLength_[OwnLength]) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      event->ignore();
-      return true;
-    }
-  }
-  return FormWindow::eventFilter(watched, event);
 }
 
 void frmBandCalc::ShowState() {

@@ -26,9 +26,6 @@ class frmBandCalc final : public FormWindow {
 
   void reject() override;
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   QWidget* MakePicture();
   QGroupBox* MakeMachine();

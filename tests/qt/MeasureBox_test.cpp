@@ -18,6 +18,7 @@ class MeasureBoxTest : public QObject {
   void isPressedByKeys_data();
   void isPressedByKeys();
   void isPressedWhenItIsAResultToo();
+  void leavesEnterToItsWindow();
   void isNotPressedOtherwise();
   void takesNoText();
   void leavesTheKeysOfCommandsAlone();
@@ -72,6 +73,18 @@ void MeasureBoxTest::isPressedWhenItIsAResultToo() {
   QTest::mouseClick(box_, Qt::LeftButton);
   QTest::keyClick(box_, Qt::Key_Return);
   QCOMPARE(presses_, 2);
+}
+
+void MeasureBoxTest::leavesEnterToItsWindow() {
+  box_->PassEnterOn();
+  for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(box_, &event);
+    QVERIFY(!event.isAccepted());
+  }
+  QCOMPARE(presses_, 0);
+  QTest::keyClick(box_, Qt::Key_Space);
+  QCOMPARE(presses_, 1);
 }
 
 void MeasureBoxTest::isNotPressedOtherwise() {

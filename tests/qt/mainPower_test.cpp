@@ -1,12 +1,9 @@
 #include <QComboBox>
 #include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
-#include <QToolButton>
 #include <algorithm>
 #include <filesystem>
 
-#include "qt/MainWindow.h"
+#include "qt/Desk.h"
 #include "store/modPowerFile.h"
 #include "window/fraMain.h"
 
@@ -15,6 +12,7 @@ namespace {
 
 using test::Cancels;
 using test::Click;
+using test::Desk;
 using test::DialogUser;
 using test::Named;
 using test::Types;
@@ -49,8 +47,6 @@ BandSaw WorkingSaw() {
   return saw;
 }
 
-QString TextOf(const QWidget& window, const char* box) { return Named<QLineEdit>(window, box)->text(); }
-
 /// Steps down a list by the keys till it shows that entry.
 void Choose(QWidget& window, const char* list, const QString& entry) {
   auto* box = Named<QComboBox>(window, list);
@@ -58,20 +54,6 @@ void Choose(QWidget& window, const char* list, const QString& entry) {
   QTest::keyClick(box, Qt::Key_Home);
   for (int i = 0; i < box->count() && box->currentText() != entry; ++i) QTest::keyClick(box, Qt::Key_Down);
 }
-
-/// Somebody at a window that opens others: what these ask is answered one by one.
-struct Desk {
-  QDialog& Window;
-  DialogUser Others;
-
-  explicit Desk(QDialog& window) : Window(window) { Others.Window = &window; }
-  void Press(const char* control) { QTest::mouseClick(Named<QWidget>(Window, control), Qt::LeftButton); }
-  void Enter(const char* box, const QString& typed) {
-    Others.Acts.push_back(Types(typed));
-    Press(box);
-  }
-  QString Text(const char* box) { return TextOf(Window, box); }
-};
 
 /// Chooses an entry of a question's list by the mouse.
 DialogUser::Act Picks(const QString& entry) {
@@ -164,7 +146,6 @@ class mainPowerTest : public QObject {
     main_->User.Acts.push_back(Types(text));
     QTest::mouseClick(Named<QWidget>(*main_->Window, box), Qt::LeftButton);
   }
-  void Open(const char* how, const char* menu, const char* item, const char* button);
 
   /// The rows of power as the panel shows them.
   QStringList PowerRows();
@@ -172,27 +153,6 @@ class mainPowerTest : public QObject {
   std::unique_ptr<test::MainWindow> main_;
   QStringList asked_;  // what the windows asked in turn
 };
-
-/// As a user picks an item: by the mouse, by keys, or by its button.
-void mainPowerTest::Open(const char* how, const char* menu, const char* item, const char* button) {
-  auto* list = Named<QMenu>(*main_->Window, menu);
-  auto* bar = main_->Window->menuBar();
-  auto* action = Named<QAction>(*main_->Window, item);
-  if (how == QString("button")) {
-    QTest::mouseClick(Named<QToolButton>(*main_->Window, button), Qt::LeftButton);
-  } else if (how == QString("mouse")) {
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(list->menuAction()).center());
-    QTRY_VERIFY(list->isVisible());
-    QTest::mouseClick(list, Qt::LeftButton, {}, list->actionGeometry(action).center());
-  } else {
-    const QString caption = list->menuAction()->text();
-    const int key = caption[caption.indexOf('&') + 1].toUpper().unicode();
-    QTest::keyClick(main_->Window.get(), Qt::Key(key), Qt::AltModifier);
-    QTRY_VERIFY(list->isVisible());
-    for (int i = 0; i < 20 && list->activeAction() != action; ++i) QTest::keyClick(list, Qt::Key_Down);
-    QTest::keyClick(list, Qt::Key_Return);
-  }
-}
 
 QStringList mainPowerTest::PowerRows() {
   QStringList rows;
@@ -230,7 +190,7 @@ void mainPowerTest::opensTheEditor() {
     QCOMPARE(Named<QComboBox>(desk.Window, "cboFeedIndex")->currentText(), QString("70 Percent"));
     desk.Press("cmdCancel");
   });
-  Open(how.toUtf8().constData(), "mnuDesign", "mnuItemPower", "tlbPower");
+  test::Pick(*main_->Window, how, "mnuDesign", "mnuItemPower", "tlbPower");
   QCOMPARE(main_->User.Seen, QStringList("frmPower: Power Requirements"));
   QVERIFY(Boxes().empty());
   QVERIFY(Bytes(main_->Saw()) == before);
@@ -630,7 +590,7 @@ void mainPowerTest::opensTheCalculator() {
     }
     desk.Press("cmdExit");
   });
-  Open(how.toUtf8().constData(), "mnuTools", "mnuItemPowerCalc", "");
+  test::Pick(*main_->Window, how, "mnuTools", "mnuItemPowerCalc");
   QCOMPARE(main_->User.Seen, QStringList("frmPowerCalc: Power Calculator"));
 }
 

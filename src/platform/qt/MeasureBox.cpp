@@ -81,6 +81,8 @@ void MeasureBox::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+      if (passesEnterOn_) return event->ignore();
+      [[fallthrough]];
     case Qt::Key_Space:
       if (!event->isAutoRepeat()) emit Pressed();
       break;

@@ -16,6 +16,9 @@ class MeasureBox final : public QLineEdit {
   void SetOpens(bool opens);
   [[nodiscard]] bool Opens() const { return opens_; }
 
+  /// Leaves Enter to the window, as any text does that is only read.
+  void PassEnterOn() { passesEnterOn_ = true; }
+
  signals:
   void Pressed();
 
@@ -34,6 +37,7 @@ class MeasureBox final : public QLineEdit {
   void FitHeight();
 
   bool opens_ = true;
+  bool passesEnterOn_ = false;
   bool held_ = false;
 };
 

@@ -1,7 +1,5 @@
 #include "platform/qt/MeasureGrid.h"
 
-#include <QKeyEvent>
-
 #include "platform/qt/Caption.h"
 #include "platform/qt/MeasureBox.h"
 
@@ -12,24 +10,6 @@ constexpr int RowGap = 3;
 constexpr int CaptionGap = 8;  // between a caption and its box
 constexpr int GroupGap = 12;
 constexpr int CaptionColumn = 0, BoxColumn = 1;
-
-/// Hands Enter on to the window of a box.
-class EnterPassedOn final : public QObject {
- public:
-  explicit EnterPassedOn(MeasureBox* box) : QObject(box) { box->installEventFilter(this); }
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::KeyPress) {
-      const int key = static_cast<QKeyEvent*>(event)->key();
-      if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        event->ignore();
-        return true;
-      }
-    }
-    return QObject::eventFilter(watched, event);
-  }
-};
 
 }  // namespace
 
@@ -45,7 +25,7 @@ MeasureBox* MeasureGrid::AddBox(const QString& name, const QString& caption, con
   box->setObjectName(name);
   box->setAccessibleName(spoken);
   box->SetOpens(press != Press::Result);
-  if (press == Press::Result) new EnterPassedOn(box);
+  if (press == Press::Result) box->PassEnterOn();
 
   QLabel* label = press == Press::BoxAndCaption ? new BoxCaption(caption, box) : new Caption(caption);
   label->setObjectName("lbl" + name.mid(3));
