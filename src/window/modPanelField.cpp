@@ -160,7 +160,7 @@ std::span<const PanelField> ToothFields() { return Tooth; }
 std::span<const PanelField> GeneralFields() { return General; }
 
 std::string AcceptedText(const PanelField& field, const BandSaw& saw, const DisplayFormat& format) {
-  const std::string shown = field.Shown(saw, format);
+  std::string shown = field.Shown(saw, format);
   if (!shown.empty() || field.Act != Ask) return shown;
   const ParameterRow& asked = RowOf(field.Asked);
   const bool isMeasure = std::holds_alternative<double& (*)(BandSaw&)>(asked.Field);
