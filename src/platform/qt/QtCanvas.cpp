@@ -8,7 +8,6 @@
 #include <cmath>
 
 #include "platform/qt/SeenLines.h"
-
 #include "platform/qt/WideRegisters.h"
 
 namespace tarnwick {
