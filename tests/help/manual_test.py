@@ -25,7 +25,7 @@ TOPICS = {
     210: ["GuBotAng"], 211: ["GuWidth", "GuFWidth", "GuOWidth"], 212: ["GuBkAngl"], 213: ["GuDepth"],
     214: ["GuBkRad"], 215: ["TipClear"], 216: ["Seat"], 217: ["SeatWide"], 218: ["SeatHigh"],
     400: [], 407: [], 409: ["CutDepth"], 410: [], 412: [], 420: [], 430: [],
-    500: ["WheelDia"], 501: ["CenToCen"], 502: ["RimWidth"], 510: [], 520: [], 600: [],
+    500: ["WheelDia"], 501: ["CenToCen"], 502: ["RimWidth"], 510: [], 520: [], 600: [], 700: [],
 }
 # Pages that go by a name: what the help menu opens, the measures without a topic, and the chapters.
 NAMED = {
