@@ -24,7 +24,7 @@ packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev fonts-deja
 packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemagick
   cups-daemon cups-client poppler-utils)
 # shellcheck disable=SC2034
-packages_full=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
+packages_full=(clang-14 libclang-rt-14-dev llvm-14 clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
   python3-ezdxf gdal-bin g++-mingw-w64-x86-64-posix googletest wine wine64)
 
 is_installed() {
@@ -54,15 +54,19 @@ install_packages() {
   rm -f "$log"
 }
 
-# Configures and builds a preset of CMakePresets.json; what cmake says while configuring is shown when it fails.
-build_preset() {
-  local preset=$1 log
-  shift
+# Configures a preset of CMakePresets.json; what cmake says is shown when it fails.
+configure_preset() {
+  local log=build/$1-configure.log
   mkdir -p build
-  log=build/$preset-configure.log
-  cmake --preset "$preset" >"$log" 2>&1 || {
+  cmake --preset "$1" >"$log" 2>&1 || {
     cat "$log" >&2
     return 1
   }
+}
+
+build_preset() {
+  local preset=$1
+  shift
+  configure_preset "$preset"
   cmake --build --preset "$preset" "$@"
 }

@@ -9,7 +9,6 @@ run_full_stages() {
   run_stage "shell scripts" stage_shell_scripts
   run_stage "static checks" stage_static_checks
   run_stage "tests under sanitizers" stage_sanitizers
-  run_stage "without Qt" stage_without_qt
   run_stage "for Windows" stage_windows
   run_stage "fuzzing" stage_fuzzing
   run_stage "second computation" stage_second_computation
@@ -18,15 +17,17 @@ run_full_stages() {
 }
 
 stage_format() {
-  local sources source wrong=0
+  local log=build/clang-format.log sources wrong=()
   mapfile -t sources < <(find src tests bench fuzz -name '*.h' -o -name '*.cpp' | sort)
-  for source in "${sources[@]}"; do
-    if ! clang-format-14 --dry-run -Werror "$source" 2>/dev/null; then
-      say "$source: not formatted; clang-format-14 -i makes it so"
-      wrong=$((wrong + 1))
-    fi
-  done
-  count $((${#sources[@]} - wrong)) "$wrong"
+  if ! clang-format-14 --dry-run -Werror "${sources[@]}" 2>"$log"; then
+    mapfile -t wrong < <(sed -n 's/^\(.*\):[0-9]*:[0-9]*: error: code should be clang-formatted.*/\1/p' "$log" | sort -u)
+    [ ${#wrong[@]} -gt 0 ] || {
+      cat "$log"
+      return 1
+    }
+    printf '%s: not formatted; clang-format-14 -i makes it so\n' "${wrong[@]}"
+  fi
+  count $((${#sources[@]} - ${#wrong[@]})) ${#wrong[@]}
 }
 
 stage_shell_scripts() {
@@ -34,22 +35,14 @@ stage_shell_scripts() {
 }
 
 stage_static_checks() {
-  local log=build/clang-tidy.log
-  if ! run-clang-tidy-14 -quiet -p build/dev "^$PWD/src/" >"$log" 2>&1; then
-    grep -E '(warning|error):' "$log" | sed 's/\x1b\[[0-9;]*m//g' | sort -u || cat "$log"
-    return 1
-  fi
-  say "no findings"
+  configure_preset static-checks
+  /usr/bin/python3 -B scripts/static_checks.py build/static-checks
 }
 
 stage_sanitizers() {
   build_preset asan
+  export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer # findings tell their lines
   run_tests asan
-}
-
-# Core and command line tool, on a build that looks for no Qt.
-stage_without_qt() {
-  build_preset no-gui --target tarnwick_core tarnwick-cli
 }
 
 # Core, command line tool and their tests made for Windows, the store of settings in the registry included, and run
@@ -57,6 +50,7 @@ stage_without_qt() {
 stage_windows() {
   build_preset windows --target tarnwick-cli tarnwick_core_tests
   local status=0 tool=build/windows/tarnwick-cli
+  under_wine wine wineboot --init # before several programs find no Windows at once
   run_core_tests windows under_wine timeout 900 wine build/windows/tests/tarnwick_core_tests.exe || status=$?
   printf '#!/bin/sh\nexec wine "%s" "$@"\n' "$PWD/build/windows/src/tarnwick-cli.exe" >$tool
   chmod +x $tool
@@ -73,30 +67,36 @@ under_wine() {
     WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d" "$@"
 }
 
-# Fresh finds go to a folder of their own, so that every run starts from the seeds alone.
 stage_fuzzing() {
   build_preset fuzz
-  local source name work log targets=(fuzz/*_fuzz.cpp)
-  for source in "${targets[@]}"; do
-    name=$(basename "$source" _fuzz.cpp)
-    work=build/fuzz-work/$name
-    log=$work/log
-    rm -rf "$work"
-    mkdir -p "$work/corpus"
-    if "build/fuzz/fuzz/${name}_fuzz" -max_total_time="$fuzz_seconds" -print_final_stats=1 \
-      -artifact_prefix="$work/" "$work/corpus" "fuzz/corpus/$name" >"$log" 2>&1; then
-      say "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs"
-      count 1 0
-    else
-      tail -n 60 "$log"
-      count 0 1
-    fi
+  local source free
+  free=$(nproc)
+  for source in fuzz/*_fuzz.cpp; do
+    if [ "$free" -gt 0 ]; then free=$((free - 1)); else wait -n; fi
+    fuzz "$(basename "$source" _fuzz.cpp)" &
   done
+  wait
+}
+
+# Fresh finds go to a folder of their own, so that every run starts from the seeds alone.
+fuzz() {
+  local name=$1 work=build/fuzz-work/$1
+  local log=$work/log
+  rm -rf "$work"
+  mkdir -p "$work/corpus"
+  if "build/fuzz/fuzz/${name}_fuzz" -max_total_time="$fuzz_seconds" -print_final_stats=1 \
+    -artifact_prefix="$work/" "$work/corpus" "fuzz/corpus/$name" >"$log" 2>&1; then
+    say "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs"
+    count 1 0
+  else
+    tail -n 60 "$log"
+    count 0 1
+  fi
 }
 
 # Random designs, plausible and degenerate, worked out by the program and by the Python computation: equal to the last digit.
 stage_second_computation() {
-  build_preset release
+  build_preset bench --target tarnwick-cli # as users get it, and the benchmarks will want it too
   local work=build/second-computation seed
   mkdir -p "$work"
   for seed in 1 2; do
@@ -106,7 +106,7 @@ stage_second_computation() {
   for seed in 1 2; do
     # A computation that died has left fewer lines than were asked for.
     [ "$(wc -l <"$work/$seed.jsonl")" -eq "$second_designs" ]
-    TARNWICK_CLI=build/release/src/tarnwick-cli /usr/bin/python3 -B tests/worked_bands_test.py "$work/$seed.jsonl"
+    TARNWICK_CLI=build/bench/src/tarnwick-cli /usr/bin/python3 -B tests/worked_bands_test.py "$work/$seed.jsonl"
     count "$second_designs" 0
   done
 }
@@ -117,12 +117,12 @@ random_worked_bands() {
 }
 
 stage_drawings() {
-  build_preset release
+  build_preset bench --target tarnwick-cli
   build_preset dev --target tarnwick_dxf_reader
   local work=build/drawings designs=(samples/*.json)
   rm -rf "$work"
   mkdir -p "$work"
-  /usr/bin/python3 -B scripts/validate_dxf.py --cli build/release/src/tarnwick-cli \
+  /usr/bin/python3 -B scripts/validate_dxf.py --cli build/bench/src/tarnwick-cli \
     --reader build/dev/tests/tarnwick_dxf_reader --out-dir "$work" "${designs[@]}"
   count ${#designs[@]} 0
 }

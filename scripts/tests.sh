@@ -1,12 +1,12 @@
 # shellcheck shell=bash
 # Runs tests, shows those that fail, counts every single one of them. A stage calls these; `count` is of stages.sh.
 
-jobs=$(nproc)
+cores=$(nproc)
 
 # All tests of a preset.
 run_tests() {
   local status=0
-  run_core_tests "$1" timeout 900 "build/$1/tests/tarnwick_core_tests" || status=1
+  run_core_tests "$1" timeout 1800 "build/$1/tests/tarnwick_core_tests" || status=1
   run_other_tests "$1" || status=1
   return "$status"
 }
@@ -18,9 +18,9 @@ run_tests() {
 run_core_tests() {
   local name=$1 shard log status=0 shards=()
   shift
-  for ((shard = 0; shard < jobs; shard++)); do
+  for ((shard = 0; shard < cores; shard++)); do
     log=build/$name-core-tests-$shard.log
-    GTEST_TOTAL_SHARDS=$jobs GTEST_SHARD_INDEX=$shard "$@" >"$log" 2>&1 &
+    GTEST_TOTAL_SHARDS=$cores GTEST_SHARD_INDEX=$shard "$@" >"$log" 2>&1 &
     shards+=("$! $log")
   done
   for shard in "${shards[@]}"; do
@@ -60,7 +60,7 @@ drop_passed_tests() {
 # The other tests: windows, journeys and scripts, each as one.
 run_other_tests() {
   local preset=$1 log=build/$1-tests.log status=0 line
-  ctest --preset "$preset" -j"$jobs" --exclude-regex '^core$' >"$log" 2>&1 || status=$?
+  ctest --preset "$preset" -j"$cores" --exclude-regex '^core$' >"$log" 2>&1 || status=$?
   grep -vE '^ *(Start +[0-9]+:|[0-9]+/[0-9]+ Test +#.* Passed )' "$log" || true
   line=$(grep -E 'tests passed, [0-9]+ tests failed out of [0-9]+' "$log") || return 1
   [[ $line =~ ([0-9]+)\ tests\ failed\ out\ of\ ([0-9]+) ]]
