@@ -532,7 +532,7 @@ void frmBandCalcTest::alignsItsBoxes() {
   Open(Machine(5, 10, 0.05));
   const auto left = [this](const QString& name) {
     const auto* box = Find<QWidget>(name);
-    return QPair(box->mapTo(window_.get(), QPoint()).x(), box->width());
+    return std::pair(box->mapTo(window_.get(), QPoint()).x(), box->width());
   };
   for (const QString& name : BoxNames) QCOMPARE(left(name), left("txtWheelDia"));
   for (int row = 0; row < LengthRows; ++row) QCOMPARE(left(Array("txtLength", row)), left("txtWheelDia"));

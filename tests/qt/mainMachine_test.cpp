@@ -492,15 +492,17 @@ void mainMachineTest::takesMetresInAMetricDesign() {
 
 void mainMachineTest::exportsTheDrawing_data() {
   QTest::addColumn<BandSaw>("saw");
+  QTest::addColumn<QString>("centers");  // as the drawing says them
   BandSaw metric = test::FullDesign();
   metric.ImpMetric = Metric;
-  QTest::newRow("imperial") << test::FullDesign();
-  QTest::newRow("metric") << metric;
-  QTest::newRow("without wheels") << WithoutMachine();
+  QTest::newRow("imperial") << test::FullDesign() << "\r\n 8.000 ft           \r\n";
+  QTest::newRow("metric") << metric << "\r\n 2.438 m            \r\n";
+  QTest::newRow("without wheels") << WithoutMachine() << "ENTITIES\r\n 0 \r\nENDSEC\r\n";
 }
 
 void mainMachineTest::exportsTheDrawing() {
   QFETCH(BandSaw, saw);
+  QFETCH(QString, centers);
   main_->Open(saw);
   const std::string before = Bytes(main_->Saw());
   main_->Program.Files.Paths = {Path("mill")};
@@ -515,7 +517,7 @@ void mainMachineTest::exportsTheDrawing() {
                                design.c_str(), "-o",         drawing.c_str()};
   QCOMPARE(cli::RunTool(static_cast<int>(std::size(words)), words), 0);
   const std::string written = test::BytesOf(Path("mill.dxf"));
-  QVERIFY(!written.empty());
+  QVERIFY(ToQt(written).contains(centers));
   QVERIFY(written == test::BytesOf(drawing));
   QVERIFY(Bytes(main_->Saw()) == before);
   QVERIFY(Boxes().empty());
