@@ -1,5 +1,7 @@
 #include "platform/qt/DrawingSurface.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -16,11 +18,22 @@ constexpr double WheelNotch = 120;  // angle units of one notch of a plain wheel
 
 SurfacePoint InInches(QPointF place) { return {place.x() / PixelsPerInch, place.y() / PixelsPerInch}; }
 
+/// To people who listen it is a drawing: a widget of no kind has nothing to tell.
+QAccessibleInterface* AccessTo(const QString& /*kind*/, QObject* object) {
+  auto* surface = qobject_cast<DrawingSurface*>(object);
+  return surface ? new QAccessibleWidget(surface, QAccessible::Canvas) : nullptr;
+}
+
+void TeachDrawings() {
+  [[maybe_unused]] static const bool taught = (QAccessible::installFactory(AccessTo), true);
+}
+
 bool PullsRectangle(Qt::MouseButton button) { return button == Qt::LeftButton || button == Qt::RightButton; }
 
 }  // namespace
 
 DrawingSurface::DrawingSurface(QWidget* parent) : QWidget(parent) {
+  TeachDrawings();
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::CrossCursor);

@@ -30,6 +30,7 @@ PanelFrame::PanelFrame(QWidget* parent) : QWidget(parent) {
   page_ = new QWidget(area_);
   area_->setWidget(page_);
   area_->setWidgetResizable(true);
+  area_->verticalScrollBar()->setAccessibleName(tr("Move the boxes"));
 
   auto* edge = new QFrame(this);
   edge->setFrameStyle(QFrame::HLine | QFrame::Plain);
