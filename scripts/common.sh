@@ -22,6 +22,7 @@ packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev fonts-deja
   qt6-base-dev qt6-svg-dev qt6-tools-dev libqt6sql6-sqlite) # the last is what the manual is read with
 # shellcheck disable=SC2034
 packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemagick
+  dbus at-spi2-core python3-pyatspi gir1.2-atspi-2.0 # the way in of a screen reader
   cups-daemon cups-client poppler-utils)
 # shellcheck disable=SC2034
 packages_full=(clang-14 libclang-rt-14-dev llvm-14 clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
