@@ -27,10 +27,9 @@ ExitCode TellMissing(const std::string& name, const fs::path& path) {
 
 #ifdef _WIN32
 
-fs::path OwnFolder() {
-  wchar_t* program = nullptr;
-  return _get_wpgmptr(&program) == 0 && program ? fs::path(program).parent_path() : fs::path();
-}
+// _wpgmptr is the path that this program was started by; the libraries of older systems have no function for
+// it.
+fs::path OwnFolder() { return _wpgmptr ? fs::path(_wpgmptr).parent_path() : fs::path(); }
 
 /// Arguments go to a program for Windows as one line, which it takes apart itself: by blanks that are not
 /// within quotes. A backslash means something ahead of a quote only.
