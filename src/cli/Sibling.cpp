@@ -76,6 +76,7 @@ ExitCode RunSibling(const std::string& name, const std::vector<std::string>& arg
   std::vector<std::string> texts{program.string()};
   texts.insert(texts.end(), arguments.begin(), arguments.end());
   std::vector<char*> pointers;
+  pointers.reserve(texts.size() + 1);
   for (std::string& text : texts) pointers.push_back(text.data());
   pointers.push_back(nullptr);
   execv(program.c_str(), pointers.data());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,10 @@ namespace tarnwick::cli {
 template <class Run>
 int RunOnWide(int argc, const wchar_t* const* argv, Run run) {
   std::vector<std::string> texts;
+  texts.reserve(static_cast<std::size_t>(argc));
   for (int i = 0; i < argc; ++i) texts.push_back(PathText(argv[i]));
   std::vector<const char*> arguments;
+  arguments.reserve(texts.size());
   for (const std::string& text : texts) arguments.push_back(text.c_str());
   return run(argc, arguments.data());
 }
