@@ -108,7 +108,7 @@ void QtPrintHostTest::opensTheSetupOfThePrinter() {
     for (int i = 0; i < printers->count(); ++i) QVERIFY(!printers->itemText(i).contains("PDF"));
     QCOMPARE(ButtonOf(dialog, QDialogButtonBox::Ok)->text(), QString("&OK"));
     Named<QSpinBox>(dialog, "copies")->setValue(3);
-    ButtonOf(dialog, QDialogButtonBox::Ok)->click();
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
   });
   const std::optional<PrinterSetup> setup = host_.RunSetup("Alpha", std::nullopt);
   QVERIFY(setup);

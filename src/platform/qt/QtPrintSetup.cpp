@@ -58,9 +58,11 @@ void MakeSetupOf(QPrintDialog& dialog) {
     dialog.setOption(option, false);
   }
   if (auto* printers = dialog.findChild<QComboBox*>("printers")) printers->setEnabled(false);
-  if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
-    if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) ok->setText(QPrintDialog::tr("&OK"));
-  }
+  const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  QPushButton* ok = buttons ? buttons->button(QDialogButtonBox::Ok) : nullptr;
+  if (!ok) return;
+  ok->setText(QPrintDialog::tr("&OK"));
+  ok->setFocus();  // Enter would press the first button that can have it
 }
 
 }  // namespace
