@@ -124,6 +124,7 @@ std::error_code SettingsFile::Finish(std::string_view application, std::string_v
     if (!FileExists(path)) return std::make_error_code(std::errc::permission_denied);
     now = ReadFile(path, LargestFile + 1);
   }
+  if (failed) return failed;  // nobody can tell: there may be lines to be kept
   if (now.Error) return now.Error;
   if (now.Bytes.size() > LargestFile) return std::make_error_code(std::errc::file_too_large);
   Lines lines = LinesOf(now.Bytes);
