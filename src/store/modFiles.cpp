@@ -49,19 +49,18 @@ std::error_code DeleteRegularFile(const std::filesystem::path& path) {
   return failed;
 }
 
+/// True also where there is no disk to reach: a device, a pipe, a file system that does not know the
+/// question.
 bool ReachesDisk(std::FILE* file) {
   if (std::fflush(file) != 0) return false;
 #ifdef _WIN32
-  return _commit(_fileno(file)) == 0;
+  return _commit(_fileno(file)) == 0 || errno == EBADF;
 #else
-  return fsync(fileno(file)) == 0;
+  return fsync(fileno(file)) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 #endif
 }
 
-enum class Rest { Any, OnDisk };
-
-/// Closing is part of writing: a full disk may show only there. OnDisk: the bytes have left the computer's
-/// memory before the file is closed, as far as the platform can tell.
+/// Closing is part of writing: a full disk may show only there.
 std::error_code WriteAndClose(OpenFile file, std::string_view bytes, Rest rest) {
   errno = 0;
   std::error_code failed;
@@ -142,8 +141,8 @@ FileBytes ReadStream(std::FILE* stream, std::size_t most) {
   return {{}, std::move(bytes)};
 }
 
-std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
-  return WriteFile(path, bytes, Rest::Any);
+std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_view bytes, Rest rest) {
+  return WriteFile(path, bytes, rest);
 }
 
 std::error_code ReplaceWholeFile(const std::filesystem::path& path, std::string_view bytes) {

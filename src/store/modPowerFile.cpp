@@ -63,7 +63,7 @@ bool OpenPowerFile(PowerSaws& saws, const std::filesystem::path& path, Messages&
 }
 
 std::error_code SavePowerFile(const PowerSaws& saws, const std::filesystem::path& path) {
-  return WriteWholeFile(path, PowerFileText(saws));
+  return WriteWholeFile(path, PowerFileText(saws), Rest::OnDisk);
 }
 
 }  // namespace tarnwick

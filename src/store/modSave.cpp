@@ -65,7 +65,7 @@ bool OpenBandSaw(BandSaw& saw, const std::filesystem::path& path, Messages& mess
 
 std::error_code SaveBandSaw(BandSaw& saw, const std::filesystem::path& path) {
   MarkSaved(saw);
-  return WriteWholeFile(path, BandSawText(saw));
+  return WriteWholeFile(path, BandSawText(saw), Rest::OnDisk);  // the copy of the design goes after this
 }
 
 }  // namespace tarnwick
