@@ -70,8 +70,13 @@ void frmMain::DrawSaw() {
 
 /// Only what differs is written: the mouse moves often, and the line would flicker.
 void frmMain::ShowStatus(std::string_view status, std::string_view hint) {
-  if (const QString text = ToQt(status); lblStatus_->text() != text) lblStatus_->setText(text);
-  if (const QString text = ToQt(hint); lblHint_->text() != text) lblHint_->setText(text);
+  const auto show = [](QLabel& label, const QString& text) {
+    if (label.text() == text) return;
+    label.setText(text);
+    label.setAccessibleDescription(text);  // a label with a name of its own keeps its text to itself
+  };
+  show(*lblStatus_, ToQt(status));
+  show(*lblHint_, ToQt(hint));
 }
 
 // ---- hints and help

@@ -484,6 +484,10 @@ void mainPanelsTest::Explain(std::span<const Hinted> rows) {
     main_->PointAt(box);
     QVERIFY2(main_->Status() == row.Status, row.Box);
     QVERIFY2(main_->Hint() == row.Hint, row.Box);
+    for (const char* line : {"lblStatus", "lblHint"}) {
+      const auto* label = Named<QLabel>(*main_->Window, line);
+      QVERIFY2(label->accessibleDescription() == label->text(), row.Box);
+    }
     auto* label = main_->Window->findChild<QLabel*>("lbl" + QString(row.Box).mid(3));
     if (label) {
       QVERIFY2(main_->BringUp(label), row.Box);
@@ -494,6 +498,8 @@ void mainPanelsTest::Explain(std::span<const Hinted> rows) {
     QTest::mouseClick(box, Qt::LeftButton);
     QVERIFY2(main_->Status() == row.MustUse, row.Box);
     QCOMPARE(main_->Hint(), QString());
+    QCOMPARE(box->accessibleDescription(),
+             QString(row.MustUse));  // people who listen hear it ahead of a click
     main_->PointAt(QPoint(40, 300));
     QCOMPARE(main_->Status(), QString());
     QTest::keyClick(box, Qt::Key_Return);

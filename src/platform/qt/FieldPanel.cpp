@@ -28,6 +28,11 @@ QString Spoken(QString caption) { return caption.remove(':'); }
 /// "txtLength" has the caption "lblLength".
 QString CaptionName(std::string_view control) { return "lbl" + ToQt(control.substr(3)); }
 
+/// What is told of a box to people who listen; of a figure of another editor, which one that is.
+QString SpokenHint(const PanelField& field) {
+  return ToQt(field.Act == BoxAct::MustUse ? NumberedText(field.Text) : HintOfBox(field).Status);
+}
+
 bool OpensSomething(const PanelField& field) {
   return field.Act == BoxAct::Ask || field.Act == BoxAct::AskSeat;
 }
@@ -75,7 +80,7 @@ void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
   Line line{&field, isTicked ? nullptr : MakeCaption(field), MakeBox(field)};
   line.Box->setObjectName(ToQt(field.Control));
   line.Box->setAccessibleName(Spoken(ToQt(field.Caption)));
-  line.Box->setAccessibleDescription(ToQt(HintOfBox(field).Status));
+  line.Box->setAccessibleDescription(SpokenHint(field));
   Watch(line.Box);
   if (line.Caption) grid->addWidget(line.Caption, row, CaptionColumn);
   grid->addWidget(line.Box, row, BoxColumn);
