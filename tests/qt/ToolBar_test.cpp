@@ -60,6 +60,7 @@ class ToolBarTest : public QObject {
   void goesAlongByArrows();
   void goesBackToWhereItWas();
   void skipsWhatCannotBeUsed();
+  void forgetsNoPlaceWhileAFileIsRead();
   void isReachedByF10();
   void pressesByKey();
   void showsWhereTheFocusIs();
@@ -290,6 +291,22 @@ void ToolBarTest::skipsWhatCannotBeUsed() {
   Command("mnuItemMain")->setEnabled(true);
   Key(Qt::Key_Tab);
   QCOMPARE(Focus(), QString("tlbMain"));
+}
+
+void ToolBarTest::forgetsNoPlaceWhileAFileIsRead() {
+  const auto readAFile = [this] {
+    for (const bool on : {false, true}) {
+      for (const char* name : {"mnuItemNew", "mnuItemStepByStep"}) Command(name)->setEnabled(on);
+    }
+  };
+  readAFile();
+  Key(Qt::Key_Tab);
+  QCOMPARE(Focus(), QString("tlbNew"));
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Escape);
+  readAFile();
+  Key(Qt::Key_Tab);
+  QCOMPARE(Focus(), QString("tlbStepByStep"));
 }
 
 void ToolBarTest::isReachedByF10() {

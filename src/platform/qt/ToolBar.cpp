@@ -86,7 +86,7 @@ ToolBar::ToolBar(QWidget& work, QWidget* parent) : QToolBar(parent), work_(work)
   setIconSize(QSize(IconSide, IconSide));
   auto* key = new QShortcut(Qt::Key_F10, this);
   connect(key, &QShortcut::activated, this, [this] {
-    if (stop_) ComeTo(stop_);
+    if (QToolButton* stop = Stop()) ComeTo(stop);
   });
 }
 
@@ -126,16 +126,21 @@ QList<QToolButton*> ToolBar::Usable() const {
   return usable;
 }
 
-/// Tab comes to the button that was used last, or to another where that one cannot be used.
-void ToolBar::KeepOneStop() {
+/// Tab comes to the button that was used last, or to another as long as that one cannot be used.
+QToolButton* ToolBar::Stop() const {
   const QList<QToolButton*> usable = Usable();
-  if (!usable.contains(stop_)) stop_ = usable.value(0);
+  return usable.contains(lastUsed_) ? lastUsed_ : usable.value(0);
+}
+
+void ToolBar::KeepOneStop() {
+  if (!lastUsed_) lastUsed_ = buttons_.value(0);
+  const QToolButton* stop = Stop();
   for (QToolButton* button : std::as_const(buttons_))
-    button->setFocusPolicy(button == stop_ ? Qt::TabFocus : Qt::NoFocus);
+    button->setFocusPolicy(button == stop ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void ToolBar::ComeTo(QToolButton* button) {
-  stop_ = button;
+  lastUsed_ = button;
   KeepOneStop();
   button->setFocus(Qt::TabFocusReason);
 }

@@ -42,13 +42,14 @@ class ToolBar final : public QToolBar {
 
  private:
   [[nodiscard]] QList<QToolButton*> Usable() const;
+  [[nodiscard]] QToolButton* Stop() const;
   void KeepOneStop();
   void ComeTo(QToolButton* button);
   bool TakeKey(const QKeyEvent& key, QToolButton* button);
 
   QWidget& work_;
   QList<QToolButton*> buttons_;
-  QToolButton* stop_ = nullptr;  // the one that Tab comes to
+  QToolButton* lastUsed_ = nullptr;  // by keyboard; at first the first one
 };
 
 }  // namespace tarnwick
