@@ -26,7 +26,8 @@ packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemag
   cups-daemon cups-client poppler-utils)
 # shellcheck disable=SC2034
 packages_full=(clang-14 libclang-rt-14-dev llvm-14 clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
-  python3-ezdxf gdal-bin g++-mingw-w64-x86-64-posix googletest wine wine64)
+  python3-ezdxf gdal-bin g++-mingw-w64-x86-64-posix googletest wine wine64
+  dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libxml2-utils libglib2.0-bin mandoc groff-base)
 
 is_installed() {
   [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

@@ -14,6 +14,7 @@ run_full_stages() {
   run_stage "second computation" stage_second_computation
   run_stage "drawings in other readers" stage_drawings
   run_stage "benchmarks run" stage_benchmarks
+  run_stage "package" stage_package
 }
 
 stage_format() {

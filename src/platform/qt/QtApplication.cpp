@@ -19,7 +19,7 @@ void SetUpApplication(QApplication& application) {
   QApplication::setApplicationVersion(
       QString::fromLatin1(FullVersion.data(), static_cast<qsizetype>(FullVersion.size())));
   // No display name: the toolkit would append it to captions that carry the program's name already.
-  QGuiApplication::setDesktopFileName("org.tarnwick.Tarnwick");
+  QGuiApplication::setDesktopFileName("org.tarnwick.tarnwick");
   if (application.style()->name() == FallbackStyle) QApplication::setStyle("Fusion");
   ReleaseWideRegistersForEvents(application);
 }
