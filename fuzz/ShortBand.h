@@ -12,8 +12,8 @@ namespace tarnwick::fuzz {
 /// Teeth of the longest band that is worked out here.
 inline constexpr int MostTeeth = 24;
 
-/// Takes teeth off a long band. Thousands of them take a second and show what two dozen show; the program itself
-/// is held to no more than its count of teeth can say.
+/// Takes teeth off a long band. Thousands of them take a second and show what two dozen show; the program
+/// itself is held to no more than its count of teeth can say.
 inline void KeepBandShort(BandSaw& saw) {
   const double teeth = saw.Pitch > 0 ? saw.Length * InchesPerFoot / saw.Pitch : 0;
   if (teeth > MostTeeth && teeth <= std::numeric_limits<std::int16_t>::max() + 1.0) {

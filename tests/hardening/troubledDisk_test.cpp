@@ -353,6 +353,18 @@ TEST_F(OnATroubledDisk, TheWindowStaysOpenWhenTheDesignCannotBeSaved) {
   });
 }
 
+TEST_F(OnATroubledDisk, OpenRemovesNoDesignThatItCouldNotRead) {
+  const auto prepare = [](DiskDesk& desk) { desk.Choose("head.bsw"); };
+  const auto open = [](DiskDesk& desk) { desk.Commands.Open(); };
+  Sweep(AllKinds, WithSettings, Does(prepare, open), [](const Left& left) {
+    EXPECT_EQ(left.File(Document), OldDocument);
+    ExpectWholeSettings(left);
+    if (left.Is == Kind::Dies) return;
+    EXPECT_TRUE(left.State == "saved 10" || left.State == "saved 0") << left.State;
+    if (!left.Told.empty()) ExpectSettingsFailure(left.Told);
+  });
+}
+
 TEST_F(OnATroubledDisk, TheCopyGoesWhenTheDesignIsOnTheDiskAndNoSooner) {
   const auto save = [](DiskDesk& desk) { desk.Commands.Save(); };
   Undisturbed(WithADocument, Does(ChangeDocument, save), [](const Left& left) {

@@ -25,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr unsigned PatienceSeconds = 10;
-constexpr int WorkFailed = 70;  // exit code of a work that threw
+constexpr int WorkFailed = 70, NotToBeTraced = 71;  // exit codes
 
 /// How an operation says what it is about.
 enum class About {
@@ -283,7 +283,7 @@ class Overseer {
   alarm(PatienceSeconds);
   try {
     const std::function<std::string()> work = prepare();
-    ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(NotToBeTraced);
     raise(SIGSTOP);
     const std::string told = work();
     _exit(write(answer, told.data(), told.size()) == static_cast<ssize_t>(told.size()) ? 0 : 1);
@@ -317,6 +317,8 @@ TroubledRun RunTroubled(const fs::path& folder, Trouble trouble, const TroubledW
   TroubledRun run = Overseer(id, folder, trouble).Run();
   run.Told = ReadAll(answer[0]);
   close(answer[0]);
+  if (run.Ended() && run.ExitCode() == NotToBeTraced) throw std::runtime_error("processes cannot be traced");
+  if (run.Ended() && run.ExitCode() == WorkFailed) throw std::runtime_error("an exception left the work");
   return run;
 }
 
