@@ -21,10 +21,7 @@ frmBDialog::frmBDialog(YesNoDialog& dialog, HelpViewer& help, QWidget* parent)
     connect(option, &QRadioButton::clicked, this, &frmBDialog::Choose);
     connect(option, &QRadioButton::toggled, this, &frmBDialog::Choose);
   }
-  connect(cmdOk_, &QPushButton::clicked, this, [this] {
-    dialog_.PressOk();
-    accept();
-  });
+  connect(cmdOk_, &QPushButton::clicked, this, &frmBDialog::PressOk);
 }
 
 void frmBDialog::MakeAnswer() {
@@ -43,6 +40,16 @@ void frmBDialog::MakeAnswer() {
 void frmBDialog::Choose() {
   dialog_.Choose(optYes_->isChecked());
   PicDisplay_->ShowPicture(dialog_.PictureKey());
+}
+
+/// An access key holds its option down for a moment before that is chosen; a quick hand presses Enter
+/// meanwhile.
+void frmBDialog::PressOk() {
+  for (QRadioButton* option : {optYes_, optNo_}) {
+    if (option->isDown()) option->setChecked(true);
+  }
+  dialog_.PressOk();
+  accept();
 }
 
 void frmBDialog::reject() {

@@ -19,6 +19,7 @@ class frmBDialog final : public QuestionWindow {
  private:
   void MakeAnswer();
   void Choose();
+  void PressOk();
 
   YesNoDialog& dialog_;
   QRadioButton* optYes_ = nullptr;

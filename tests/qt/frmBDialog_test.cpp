@@ -33,6 +33,7 @@ class frmBDialogTest : public QObject {
   void opensOnThePresentState();
   void answersByMouse();
   void answersByKeys();
+  void keepsUpWithQuickHands();
   void keepsOneOptionSet();
   void givesNothingWhenCancelled_data();
   void givesNothingWhenCancelled();
@@ -134,6 +135,17 @@ void frmBDialogTest::answersByKeys() {
   QTest::keyClick(window_.get(), Qt::Key_Y, Qt::AltModifier);
   QTest::keyClick(window_.get(), Qt::Key_O, Qt::AltModifier);
   IsClosedWith("True");
+}
+
+void frmBDialogTest::keepsUpWithQuickHands() {
+  OpenSeat(false);
+  QTest::keyClick(window_.get(), Qt::Key_Y, Qt::AltModifier);
+  QTest::keyClick(optNo_, Qt::Key_Return);
+  IsClosedWith("True");
+  OpenSeat(true);
+  QTest::keyClick(window_.get(), Qt::Key_N, Qt::AltModifier);
+  QTest::keyClick(optYes_, Qt::Key_Enter);
+  IsClosedWith("False");
 }
 
 void frmBDialogTest::keepsOneOptionSet() {
