@@ -54,7 +54,7 @@ appstream_is_content() {
 # Runs what is to say nothing.
 without_remark() {
   local said status=0
-  said=$("$@" 2>&1) || status=$?
+  said=$(LC_ALL=C.UTF-8 "$@" 2>&1) || status=$?
   if [ "$status" -ne 0 ] || [ -n "$said" ]; then
     printf '%s:\n%s\n' "$*" "$said"
     return 1
