@@ -88,16 +88,21 @@ std::string ProcessName() {
 #endif
 }
 
-/// The file that a chain of links leads to, whether it is there or not.
-std::filesystem::path EndOfLinks(std::filesystem::path path) {
+/// Goes to the file that a chain of links leads to, whether it is there or not. Fails where the platform
+/// cannot say what lies in the way: a link that is taken for a file would be replaced itself.
+std::error_code FollowLinks(std::filesystem::path& path) {
+  using std::filesystem::file_type;
   constexpr int longestChain = 40;
-  std::error_code none;
-  for (int i = 0; i < longestChain && std::filesystem::is_symlink(path, none); ++i) {
-    const std::filesystem::path next = std::filesystem::read_symlink(path, none);
-    if (none) break;
+  std::error_code failed;
+  for (int i = 0; i < longestChain; ++i) {
+    const file_type type = std::filesystem::symlink_status(path, failed).type();
+    if (type == file_type::none) return failed;
+    if (type != file_type::symlink) break;
+    const std::filesystem::path next = std::filesystem::read_symlink(path, failed);
+    if (failed) return failed;
     path = path.parent_path() / next;
   }
-  return path;
+  return {};
 }
 
 /// A file that comes in place of another is as open to others as that one was.
@@ -147,9 +152,11 @@ std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_vi
 
 std::error_code ReplaceWholeFile(const std::filesystem::path& path, std::string_view bytes) {
   using std::filesystem::file_type;
-  std::error_code ignored, failed;
-  const std::filesystem::path target = EndOfLinks(path);
-  const file_type type = std::filesystem::status(target, ignored).type();
+  std::filesystem::path target = path;
+  std::error_code failed = FollowLinks(target);
+  if (failed) return failed;
+  const file_type type = std::filesystem::status(target, failed).type();
+  if (type == file_type::none) return failed;
   if (type != file_type::regular && type != file_type::not_found) {
     return std::make_error_code(type == file_type::directory ? std::errc::is_a_directory
                                                              : std::errc::operation_not_supported);
