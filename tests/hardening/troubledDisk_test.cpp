@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <map>
 
@@ -225,10 +226,15 @@ bool IsSavingFailed(const std::string& box, const std::string& procedure) {
   return box.starts_with("Saving: Error Number: ") && box.ends_with("|Sub Program " + procedure);
 }
 
+constexpr int Reasons[] = {EACCES, EIO, ENOSPC};
+
 /// Settings that could not be written are told of by a number and in words.
 void ExpectSettingsFailure(const Texts& told) {
   ASSERT_EQ(told.size(), 2u);
-  EXPECT_TRUE(told.front().starts_with("Tarnwick: Error ")) << told.front();
+  const bool isTheReason = std::any_of(std::begin(Reasons), std::end(Reasons), [&told](int reason) {
+    return told.front() == "Tarnwick: Error " + std::to_string(reason);
+  });
+  EXPECT_TRUE(isTheReason) << told.front();
   EXPECT_EQ(told.back(), "Error: Unable to save config file");
 }
 
@@ -395,6 +401,23 @@ TEST_F(OnATroubledDisk, SettingsAreWrittenWholeOrTheOldOnesStay) {
     } else {
       ExpectSettingsFailure(left.Told);
     }
+  });
+}
+
+TEST_F(OnATroubledDisk, SettingsThatAreALinkStayOne) {
+  const auto scene = [](const fs::path& folder) {
+    WithSettings(folder);
+    const fs::path settings = folder / "config" / "Tarnwick" / "Settings";
+    fs::rename(settings, folder / "documents" / "kept elsewhere");
+    fs::create_symlink("../../documents/kept elsewhere", settings);
+  };
+  const auto save = [](DiskDesk& desk) { desk.Process.SaveSettings(); };
+  Sweep(AllKinds, scene, Does([](DiskDesk&) {}, save), [](const Left& left) {
+    EXPECT_TRUE(fs::is_symlink(left.Folder / "config" / "Tarnwick" / "Settings"));
+    ExpectWholeSettings(left);
+    if (left.Is == Kind::Dies) return;
+    left.ExpectNoLeavings();
+    if (!left.Told.empty()) ExpectSettingsFailure(left.Told);
   });
 }
 
