@@ -131,6 +131,11 @@ bool DocumentCommands::MayReplace(const std::string& path) const {
   return Ask(ReplaceQuestion(path)) == Button::Yes;
 }
 
+void DocumentCommands::TellWhatFails(std::string_view activity, std::string_view procedure,
+                                     const std::function<void()>& act) const {
+  TellFailures(desk_.Process.Out.Say, activity, procedure, act);
+}
+
 // ---- at the start, and all the time
 
 void DocumentCommands::Begin() {
@@ -188,7 +193,12 @@ void DocumentCommands::NewStepByStep() {
 // ---- open
 
 void DocumentCommands::Open() {
-  if (busy_ || !MayLeave(Changed)) return;
+  if (busy_) return;
+  TellWhatFails("Opening", "mnuItemOpen", [this] { AskAndOpen(); });
+}
+
+void DocumentCommands::AskAndOpen() {
+  if (!MayLeave(Changed)) return;
   const std::optional<std::string> path = desk_.Process.Out.Files.AskOpen(
       {.Filter = std::string(OpenFilter), .Folder = Design().SawDir(), .Name = Design().FileName});
   if (!path) return;
@@ -199,7 +209,11 @@ void DocumentCommands::Open() {
 
 void DocumentCommands::OpenRecent(std::size_t index) {
   if (busy_ || index >= Design().Settings.Recent.size()) return;
-  const RecentFile file = Design().Settings.Recent[index];
+  const RecentFile file = Design().Settings.Recent[index];  // the list may be another once it is open
+  TellWhatFails("Opening", "mnuRecentFiles", [&] { OpenRecentFile(file); });
+}
+
+void DocumentCommands::OpenRecentFile(const RecentFile& file) {
   const bool isOpen = file.Path() == Design().SawDir() + Design().FileName;
   const bool changed = !SameSaw(Design().Saw, Design().SawSaved);
   if (changed && !(isOpen ? MayOpenAgain() : MayLeave(Changed))) return;
@@ -213,7 +227,8 @@ void DocumentCommands::OpenCommandFile() {
 }
 
 void DocumentCommands::OpenNamedFile(const std::string& name, const std::string& folder) {
-  if (!busy_) OpenFile(name, folder, Refused::Removed);
+  if (busy_) return;
+  TellWhatFails("Opening", "OpenNamedFile", [&] { OpenFile(name, folder, Refused::Removed); });
 }
 
 void DocumentCommands::OpenFile(const std::string& name, const std::string& folder, Refused refused) {
@@ -272,6 +287,10 @@ bool DocumentCommands::TakeSaveName(bool warn) {
 
 void DocumentCommands::Save() {
   if (busy_) return;
+  TellWhatFails("Saving", "mnuItemSave", [this] { AskAndSave(); });
+}
+
+void DocumentCommands::AskAndSave() {
   const bool mayWrite = Design().FileName == UntitledName ? TakeSaveName(true)
                                                           : MayReplace(Design().SawDir() + Design().FileName);
   if (!mayWrite) return;
@@ -280,7 +299,12 @@ void DocumentCommands::Save() {
 }
 
 void DocumentCommands::SaveAs() {
-  if (busy_ || !TakeSaveName(true)) return;
+  if (busy_) return;
+  TellWhatFails("Saving", "mnuItemSaveAs", [this] { AskAndSaveAs(); });
+}
+
+void DocumentCommands::AskAndSaveAs() {
+  if (!TakeSaveName(true)) return;
   Design().Viewer = false;
   if (!Write("mnuItemSaveAs")) return;
   desk_.Process.AddToRecent();
@@ -288,6 +312,12 @@ void DocumentCommands::SaveAs() {
 }
 
 bool DocumentCommands::SaveBeforeLeaving() {
+  bool written = false;
+  TellWhatFails("Saving", "SaveBeforeLeaving", [&] { written = AskAndSaveBeforeLeaving(); });
+  return written;
+}
+
+bool DocumentCommands::AskAndSaveBeforeLeaving() {
   if (!TakeSaveName(false)) return false;
   Design().Viewer = true;  // and stays until a command writes the caption anew
   if (!Write("SaveBeforeLeaving")) return false;
@@ -328,7 +358,7 @@ bool DocumentCommands::MayClose() {
 
 void DocumentCommands::ExportDxf() {
   if (busy_) return;
-  TellFailures(desk_.Process.Out.Say, "Saving", "mnuItemExport", [this] { ExportDrawing(); });
+  TellWhatFails("Saving", "mnuItemExport", [this] { ExportDrawing(); });
 }
 
 void DocumentCommands::ExportDrawing() {

@@ -79,8 +79,16 @@ class DocumentCommands {
   [[nodiscard]] bool MayLeave(std::string_view changed);
   [[nodiscard]] bool MayOpenAgain();
   void OpenCommandFile();
+  /// A failure that has no words of its own is told under the name of the activity.
+  void TellWhatFails(std::string_view activity, std::string_view procedure,
+                     const std::function<void()>& act) const;
   void BeginBlank();
   void FillAll();
+  void AskAndOpen();
+  void OpenRecentFile(const RecentFile& file);
+  void AskAndSave();
+  void AskAndSaveAs();
+  bool AskAndSaveBeforeLeaving();
   void OpenFile(const std::string& name, const std::string& folder, Refused refused);
   void ShowOpened();
   void ShowRefused(Refused refused);

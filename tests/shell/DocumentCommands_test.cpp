@@ -536,6 +536,46 @@ TEST_F(Document, TellsOfAnyOtherFailureOfTheExport) {
   EXPECT_TRUE(window_.Log.empty());
 }
 
+TEST_F(Document, TellsWhatItCannotPutInWordsUnderTheNameOfTheActivity) {
+  test::BrokenFileDialogs broken;
+  Program process(
+      {program_.Say, program_.Time, program_.Store, program_.Colors, program_.Help, broken, program_.Bin});
+  DocumentCommands commands({process, dialogs_, window_, window_});
+  process.Design.FileName = UntitledName;
+  const auto told = [this](const auto& command) {
+    program_.Say.Shown.clear();
+    command();
+    return program_.Say.Shown.size() == 1 ? LastBox().Title + ": " + LastBox().Text : std::string();
+  };
+  EXPECT_EQ(told([&] { commands.Open(); }), "Opening: " + broken.Told("mnuItemOpen"));
+  EXPECT_EQ(told([&] { commands.Save(); }), "Saving: " + broken.Told("mnuItemSave"));
+  EXPECT_EQ(told([&] { commands.SaveAs(); }), "Saving: " + broken.Told("mnuItemSaveAs"));
+  EXPECT_EQ(told([&] { EXPECT_FALSE(commands.SaveBeforeLeaving()); }),
+            "Saving: " + broken.Told("SaveBeforeLeaving"));
+  EXPECT_TRUE(window_.Log.empty());
+}
+
+TEST_F(Document, TellsThatMemoryRanOutWhileAFileWasOpened) {
+  const std::string file = Stored("head.bsw");
+  Design().Settings.Recent = {{Folder(), "head.bsw"}};
+  files_.Paths = {file};
+  window_.Meanwhile = [] { throw std::bad_alloc(); };
+  const std::string procedures[] = {"mnuItemOpen", "mnuRecentFiles", "OpenNamedFile"};
+  for (const std::string& procedure : procedures) {
+    program_.Say.Shown.clear();
+    Design().FileName = UntitledName;
+    Design().KeepAsSaved();
+    if (procedure == "mnuItemOpen") commands_.Open();
+    if (procedure == "mnuRecentFiles") commands_.OpenRecent(0);
+    if (procedure == "OpenNamedFile") commands_.OpenNamedFile("head.bsw", Folder());
+    ASSERT_EQ(program_.Say.Shown.size(), 1u) << procedure;
+    EXPECT_EQ(LastBox().Title, "Opening");
+    EXPECT_TRUE(LastBox().Text.ends_with("\nSub Program " + procedure)) << LastBox().Text;
+    EXPECT_FALSE(commands_.IsBusy());
+    EXPECT_TRUE(fs::exists(file));
+  }
+}
+
 TEST_F(Document, WritesTheListingAsText) {
   Stored("head.bsw");
   Open("head.bsw");
