@@ -115,8 +115,8 @@ class OpenWindow {
   Program program_{{say_, surroundings_.Time, store_, surroundings_.Colors, surroundings_.Help,
                     surroundings_.Files, surroundings_.Bin}};
   TwoMinds dialogs_;
-  QtHosts hosts_{surroundings_.Help};
-  frmMain window_{program_, {dialogs_, hosts_.All().Power, hosts_.All().Machine}};
+  QtHosts hosts_{program_};
+  frmMain window_{program_, {dialogs_, hosts_.All().Power, hosts_.All().Machine, hosts_.All().Printing}};
   fraMain* panel_ = window_.findChild<fraMain*>();
   bool painted_ = false;
 };

@@ -46,7 +46,7 @@ int RunMain(int argc, char** argv) {
   tarnwick::Program program(surroundings.All(), tarnwick::UserStateFolder());
   const std::string design = tarnwick::CommandFile(argc - 1, argv + 1);
   program.Start(tarnwick::DocumentsFolder(), design);
-  tarnwick::QtHosts hosts(surroundings.Help);
+  tarnwick::QtHosts hosts(program);
   tarnwick::frmMain window(program, hosts.All());
   const auto* surface = window.findChild<tarnwick::DrawingSurface*>("PicEditor");
   QObject::connect(surface, &tarnwick::DrawingSurface::Painted, &window, [&] {

@@ -131,7 +131,7 @@ CLI::App& AddPdf(CLI::App& app, Options& options) {
       AddCommand(app, "pdf", "Write the print-outs of each design as a PDF file on letter paper", options);
   AddOutput(pdf, options, ".pdf");
   const std::map<std::string, SawPages> pages{
-      {"both", SawPages::Both}, {"drawing", SawPages::SawDrawing}, {"info", SawPages::SawInfo}};
+      {"both", SawPages::Both}, {"drawing", SawPages::Drawing}, {"info", SawPages::Info}};
   pdf.add_option(
          "--pages",
          "Write the information sheet, the drawing in true size, or both; without it both, and the segment\n"

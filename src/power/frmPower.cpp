@@ -32,7 +32,7 @@ bool IsEnter(const QEvent& event) {
 
 }  // namespace
 
-frmPower::frmPower(PowerEditor& editor, HelpViewer& help, QWidget* parent)
+frmPower::frmPower(PowerEditor& editor, HelpViewer& help, std::function<void()> print, QWidget* parent)
     : FormWindow("frmPower", tr("Power Requirements"), Topic, help, parent),
       editor_(editor),
       boxes_(PowerEditorBoxes(), {}, [this](PowerBox box) {
@@ -42,7 +42,7 @@ frmPower::frmPower(PowerEditor& editor, HelpViewer& help, QWidget* parent)
   auto* column = new QVBoxLayout;
   column->setSpacing(Margin);
   column->addWidget(MakeFigures());
-  column->addWidget(MakeEstimates());
+  column->addWidget(MakeEstimates(std::move(print)));
   column->addStretch();
   Arrange(column, MakeFoot());
   ShowState();
@@ -100,7 +100,7 @@ QGroupBox* frmPower::MakeGulletCapacity() {
   return frame;
 }
 
-QGroupBox* frmPower::MakeEstimates() {
+QGroupBox* frmPower::MakeEstimates(std::function<void()> print) {
   auto* frame = new QGroupBox(tr("Estimated Feed Rates:"));
   frame->setObjectName("fraEstimates");
   cboPercent_ = new QComboBox;
@@ -121,13 +121,13 @@ QGroupBox* frmPower::MakeEstimates() {
   caption->setTextFormat(Qt::PlainText);
   caption->setBuddy(cboPercent_);
 
-  estimates_ = new QHBoxLayout(frame);
-  estimates_->setSpacing(Gap);
-  estimates_->addWidget(caption);
-  estimates_->addWidget(cboPercent_);
-  cmdView_ = MakeEstimateButton("cmdView", tr("View Results"), [this] { editor_.PressView(); });
-  estimates_->addWidget(cmdView_);
-  estimates_->addStretch();
+  auto* row = new QHBoxLayout(frame);
+  row->setSpacing(Gap);
+  row->addWidget(caption);
+  row->addWidget(cboPercent_);
+  row->addWidget(MakeEstimateButton("cmdView", tr("View Results"), [this] { editor_.PressView(); }));
+  row->addWidget(MakeEstimateButton("cmdPrint", tr("Print Results"), std::move(print)));
+  row->addStretch();
   return frame;
 }
 
@@ -140,12 +140,6 @@ QPushButton* frmPower::MakeEstimateButton(const char* name, const QString& capti
     ShowState();
   });
   return button;
-}
-
-void frmPower::AddPrint(std::function<void()> print) {
-  QPushButton* cmdPrint = MakeEstimateButton("cmdPrint", tr("Print Results"), std::move(print));
-  estimates_->insertWidget(estimates_->indexOf(cmdView_) + 1, cmdPrint);
-  setTabOrder(cmdView_, cmdPrint);
 }
 
 QHBoxLayout* frmPower::MakeFoot() {

@@ -19,10 +19,8 @@ class FeedIndexList;
 class frmPower final : public FormWindow {
  public:
   /// @param editor  has its design; says once the window is closed whether it was accepted
-  frmPower(PowerEditor& editor, HelpViewer& help, QWidget* parent = nullptr);
-
-  /// Adds the button cmdPrint.
-  void AddPrint(std::function<void()> print);
+  /// @param print  what cmdPrint does
+  frmPower(PowerEditor& editor, HelpViewer& help, std::function<void()> print, QWidget* parent = nullptr);
 
   void reject() override;
 
@@ -32,7 +30,7 @@ class frmPower final : public FormWindow {
  private:
   QGroupBox* MakeFigures();
   QGroupBox* MakeGulletCapacity();
-  QGroupBox* MakeEstimates();
+  QGroupBox* MakeEstimates(std::function<void()> print);
   QPushButton* MakeEstimateButton(const char* name, const QString& caption, std::function<void()> command);
   QHBoxLayout* MakeFoot();
 
@@ -43,8 +41,6 @@ class frmPower final : public FormWindow {
   PowerBoxes boxes_;
   FeedIndexList* cboFeedIndex_ = nullptr;
   QComboBox* cboPercent_ = nullptr;
-  QHBoxLayout* estimates_ = nullptr;
-  QPushButton* cmdView_ = nullptr;
 };
 
 }  // namespace tarnwick

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/FeedIndexList.h"
@@ -16,14 +17,25 @@ namespace tarnwick {
 namespace {
 
 constexpr int Topic = 430;
-constexpr int RowGap = 2;    // seventeen rows, on the smallest screen too
-constexpr int FrameGap = 4;  // above and below what is in a frame
+constexpr int RowGap = 2;      // seventeen rows, on the smallest screen too
+constexpr int ButtonAir = 24;  // beside a caption, both sides
+constexpr int FrameGap = 4;    // above and below what is in a frame
+
+/// All as wide as the longest caption asks for: six of the usual width are too many for the smallest screen.
+void MakeSlim(const QList<QPushButton*>& buttons) {
+  int widest = 0;
+  for (const QPushButton* button : buttons) {
+    widest = std::max(widest, button->fontMetrics().horizontalAdvance(button->text()));
+  }
+  for (QPushButton* button : buttons) button->setFixedWidth(widest + ButtonAir);
+}
 
 QString Suffix(std::size_t side) { return QString("(%1)").arg(side); }
 
 }  // namespace
 
-frmPowerCalc::frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, QWidget* parent)
+frmPowerCalc::frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, std::function<void()> print,
+                           QWidget* parent)
     : FormWindow("frmPowerCalc", tr("Power Calculator"), Topic, help, parent),
       calculator_(calculator),
       boxes_{MakeBoxes(0, tr("%1 of the first calculation")),
@@ -36,8 +48,9 @@ frmPowerCalc::frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, QWidge
   auto* foot = new QBoxLayout(QBoxLayout::LeftToRight);
   foot->setSpacing(Margin);
   foot->addWidget(MakeFeedIndex());
-  foot->addLayout(MakeButtons(), 1);
-  foot->setAlignment(buttons_, Qt::AlignBottom);
+  QBoxLayout* buttons = MakeButtons(std::move(print));
+  foot->addLayout(buttons, 1);
+  foot->setAlignment(buttons, Qt::AlignBottom);
   MayStack(sides);
   MayStack(foot);
   Arrange(sides, foot);
@@ -98,18 +111,24 @@ QGroupBox* frmPowerCalc::MakeFeedIndex() {
   return frame;
 }
 
-QBoxLayout* frmPowerCalc::MakeButtons() {
-  buttons_ = new QHBoxLayout;
-  buttons_->setSpacing(Gap);
-  buttons_->setContentsMargins(0, 0, 0, 2 * FrameGap);  // in line with the list beside them
-  buttons_->addStretch();
-  buttons_->addWidget(AddCommand("cmdCopy", tr("&Copy"), [this] { calculator_.PressCopy(); }));
-  buttons_->addWidget(AddCommand("cmdNew", tr("&New"), [this] { calculator_.PressNew(); }));
-  buttons_->addWidget(AddCommand("cmdOpen", tr("&Open"), [this] { calculator_.PressOpen(); }));
-  buttons_->addWidget(AddCommand("cmdSave", tr("&Save"), [this] { calculator_.PressSave(); }));
-  buttons_->addSpacing(Margin);
-  buttons_->addWidget(AddCommand("cmdExit", tr("E&xit"), [this] { reject(); }));
-  return buttons_;
+QBoxLayout* frmPowerCalc::MakeButtons(std::function<void()> print) {
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(Gap);
+  buttons->setContentsMargins(0, 0, 0, 2 * FrameGap);  // in line with the list beside them
+  buttons->addStretch();
+  QPushButton* cmdExit = AddCommand("cmdExit", tr("E&xit"), [this] { reject(); });
+  const QList<QPushButton*> all{AddCommand("cmdCopy", tr("&Copy"), [this] { calculator_.PressCopy(); }),
+                                AddCommand("cmdNew", tr("&New"), [this] { calculator_.PressNew(); }),
+                                AddCommand("cmdOpen", tr("&Open"), [this] { calculator_.PressOpen(); }),
+                                AddCommand("cmdSave", tr("&Save"), [this] { calculator_.PressSave(); }),
+                                AddCommand("cmdPrint", tr("&Print"), std::move(print)),
+                                cmdExit};
+  for (QPushButton* button : all) {
+    if (button == cmdExit) buttons->addSpacing(Margin);
+    buttons->addWidget(button);
+  }
+  MakeSlim(all);
+  return buttons;
 }
 
 /// Enter presses the button that has the focus, and no other: none of them is what one has come here for.
@@ -122,13 +141,6 @@ QPushButton* frmPowerCalc::AddCommand(const char* name, const QString& caption,
     ShowState();
   });
   return button;
-}
-
-void frmPowerCalc::AddPrint(std::function<void()> print) {
-  QPushButton* cmdPrint = AddCommand("cmdPrint", tr("&Print"), std::move(print));
-  auto* cmdSave = findChild<QPushButton*>("cmdSave");
-  buttons_->insertWidget(buttons_->indexOf(cmdSave) + 1, cmdPrint);
-  setTabOrder(cmdSave, cmdPrint);
 }
 
 // ---- what is done to it

@@ -18,10 +18,9 @@ class FeedIndexList;
 /// The window of a PowerCalculator.
 class frmPowerCalc final : public FormWindow {
  public:
-  frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, QWidget* parent = nullptr);
-
-  /// Adds the button cmdPrint.
-  void AddPrint(std::function<void()> print);
+  /// @param print  what cmdPrint does
+  frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, std::function<void()> print,
+               QWidget* parent = nullptr);
 
   void reject() override;
 
@@ -34,7 +33,7 @@ class frmPowerCalc final : public FormWindow {
   PowerBoxes MakeBoxes(std::size_t side, const QString& spoken);
   QGroupBox* MakeSide(std::size_t side, const QString& caption, const QString& clear);
   QGroupBox* MakeFeedIndex();
-  QBoxLayout* MakeButtons();
+  QBoxLayout* MakeButtons(std::function<void()> print);
   QPushButton* AddCommand(const char* name, const QString& caption, std::function<void()> command);
 
   void ShowState();
@@ -42,7 +41,6 @@ class frmPowerCalc final : public FormWindow {
   PowerCalculator& calculator_;
   std::array<PowerBoxes, Sides> boxes_;
   FeedIndexList* cboFeedIndex_ = nullptr;
-  QBoxLayout* buttons_ = nullptr;
 };
 
 }  // namespace tarnwick

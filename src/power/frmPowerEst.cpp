@@ -135,7 +135,8 @@ QString SpokenLine(const PowerLine& line) {
 
 }  // namespace
 
-frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, QWidget* parent)
+frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, std::function<void()> print,
+                         QWidget* parent)
     : FormWindow("frmPowerEst", tr("Power Estimates"), Topic, help, parent), estimates_(estimates) {
   const auto caption = [](const char* name, std::string_view text) {
     auto* label = new QLabel(ToQt(text));
@@ -149,7 +150,7 @@ frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, QWidget
   column->addWidget(caption("lblHeading", estimates_.Heading()));
   column->addWidget(MakeLines(), 1);
   column->addWidget(caption("lblNote", PowerEstimateList::Note()));
-  column->addLayout(MakeFoot());
+  column->addLayout(MakeFoot(std::move(print)));
   DisplayPowerSets();
   picPowerEst_->setFocus();
 }
@@ -183,22 +184,18 @@ void frmPowerEst::DisplayPowerSets() {
   static_cast<LinePainter*>(picPowerEst_->itemDelegate())->Fit(*picPowerEst_);
 }
 
-QHBoxLayout* frmPowerEst::MakeFoot() {
-  cmdOk_ = MakeButton("cmdOk", tr("&OK"));
-  cmdOk_->setDefault(true);
-  connect(cmdOk_, &QPushButton::clicked, this, &frmPowerEst::accept);
-  foot_ = new QHBoxLayout;
-  foot_->setSpacing(Gap);
-  foot_->addStretch();
-  foot_->addWidget(cmdOk_);
-  return foot_;
-}
-
-void frmPowerEst::AddPrint(std::function<void()> print) {
+QHBoxLayout* frmPowerEst::MakeFoot(std::function<void()> print) {
   QPushButton* cmdPrint = MakeButton("cmdPrint", tr("&Print"));
   connect(cmdPrint, &QPushButton::clicked, this, std::move(print));
-  foot_->insertWidget(foot_->indexOf(cmdOk_), cmdPrint);
-  setTabOrder(picPowerEst_, cmdPrint);
+  QPushButton* cmdOk = MakeButton("cmdOk", tr("&OK"));
+  cmdOk->setDefault(true);
+  connect(cmdOk, &QPushButton::clicked, this, &frmPowerEst::accept);
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(Gap);
+  foot->addStretch();
+  foot->addWidget(cmdPrint);
+  foot->addWidget(cmdOk);
+  return foot;
 }
 
 void frmPowerEst::done(int result) {

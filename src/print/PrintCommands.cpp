@@ -171,11 +171,11 @@ void PrintCommands::PrintPages(RunChoice run, std::optional<SawPages> pages, std
 void PrintCommands::PrintSaw() { PrintPages(&PrintHost::RunPrinterPage, std::nullopt, "mnuItemPrint"); }
 
 void PrintCommands::PrintInfoOnly() {
-  PrintPages(&PrintHost::RunPrinter, SawPages::SawInfo, "mnuItemPrintInfo");
+  PrintPages(&PrintHost::RunPrinter, SawPages::Info, "mnuItemPrintInfo");
 }
 
 void PrintCommands::PrintShapeOnly() {
-  PrintPages(&PrintHost::RunPrinter, SawPages::SawDrawing, "mnuItemPrintShape");
+  PrintPages(&PrintHost::RunPrinter, SawPages::Drawing, "mnuItemPrintShape");
 }
 
 void PrintCommands::PrintVariableSegment() {

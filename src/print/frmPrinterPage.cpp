@@ -32,8 +32,8 @@ QGroupBox* frmPrinterPage::MakePages() {
     column->addWidget(option);
   };
   add("optBoth", tr("Both Pages"), SawPages::Both);
-  add("optSawDrawing", tr("Saw Drawing"), SawPages::SawDrawing);
-  add("optSawInfo", tr("Saw Information"), SawPages::SawInfo);
+  add("optSawDrawing", tr("Saw Drawing"), SawPages::Drawing);
+  add("optSawInfo", tr("Saw Information"), SawPages::Info);
   return frame;
 }
 

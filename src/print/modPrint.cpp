@@ -34,7 +34,7 @@ PrintSheet ShapeSheet(const SawPrint& print, const Stationery& stationery, const
 PrintJob SawJob(const SawPrint& print, const Stationery& stationery, SawPages pages) {
   const int sheets = pages == SawPages::Both ? 2 : 1;
   return {stationery.Header.Title, sheets, [=, &print, &stationery](int number) {
-            const bool isInfo = pages == SawPages::SawInfo || (pages == SawPages::Both && number == 1);
+            const bool isInfo = pages == SawPages::Info || (pages == SawPages::Both && number == 1);
             return (isInfo ? InfoSheet : ShapeSheet)(print, stationery, PageLabel(number, sheets));
           }};
 }

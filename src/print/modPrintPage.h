@@ -7,7 +7,7 @@
 namespace tarnwick {
 
 /// Which sheets of a saw are printed.
-enum class SawPages { Both, SawDrawing, SawInfo };
+enum class SawPages { Both, Drawing, Info };
 
 /// The layout of a page: what a sheet is built on. Twips, from the corner of the paper.
 struct PrintPage {

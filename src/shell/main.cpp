@@ -20,7 +20,7 @@ int Run(int argc, char** argv) {
   tarnwick::QtSurroundings surroundings;
   tarnwick::Program program(surroundings.All(), tarnwick::UserStateFolder());
   program.Start(tarnwick::DocumentsFolder(), tarnwick::CommandFile(argc, argv));
-  tarnwick::QtHosts hosts(surroundings.Help);
+  tarnwick::QtHosts hosts(program);
   tarnwick::frmMain window(program, hosts.All());
   Pause(surroundings.Time);
   window.show();

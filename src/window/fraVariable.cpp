@@ -75,7 +75,6 @@ fraVariable::fraVariable(QWidget* parent) : PanelFrame(parent) {
   column->addWidget(MakePrint(), 0, Qt::AlignRight);
   column->addStretch(1);
   MakeFoot();
-  ShowPrint(false);
   SetWidth(LeastWidth(), 0);
   Show({}, {});
 }
@@ -196,11 +195,12 @@ QWidget* fraVariable::MakeVarDepth() {
   return chkVarDepth_;
 }
 
-QWidget* fraVariable::MakePrint() {
-  cmdVariablePrint_ = new QPushButton(tr("&Print"), Page());
-  Name(cmdVariablePrint_, "cmdVariablePrint", tr("Print"));
-  connect(cmdVariablePrint_, &QPushButton::clicked, this, &fraVariable::PrintPressed);
-  return cmdVariablePrint_;
+QPushButton* fraVariable::MakePrint() {
+  auto* print = new QPushButton(tr("&Print"), Page());
+  Name(print, "cmdVariablePrint", tr("Print"));
+  print->setAutoDefault(true);  // Enter presses it, as the buttons at the foot
+  connect(print, &QPushButton::clicked, this, &fraVariable::PrintPressed);
+  return print;
 }
 
 void fraVariable::MakeFoot() {
@@ -229,8 +229,6 @@ void fraVariable::SetWidth(int panel, int more) {
   txtAverageSpace_->setFixedWidth(beside);
   txtAverageDepth_->setFixedWidth(beside);
 }
-
-void fraVariable::ShowPrint(bool possible) { cmdVariablePrint_->setVisible(possible); }
 
 void fraVariable::ShowEntries(const VariableValues& values) {
   QStringList entries;

@@ -30,9 +30,6 @@ class fraVariable final : public PanelFrame {
   /// Writes what differs, and fires nothing.
   void Show(const VariableValues& values, const DisplayFormat& format);
 
-  /// Whether a segment can be printed.
-  void ShowPrint(bool possible);
-
   /// @param panel  the whole width
   /// @param more   what the boxes get of it beyond their least
   void SetWidth(int panel, int more);
@@ -65,7 +62,7 @@ class fraVariable final : public PanelFrame {
   QWidget* MakePatterns();
   QWidget* MakeVarDepth();
   QLayout* MakeTeeth();
-  QWidget* MakePrint();
+  QPushButton* MakePrint();
   void MakeFoot();
   MeasureBox* AddCount(QGridLayout* grid, const char* name, const QString& caption);
   void AddCaption(QGridLayout* grid, const QString& text);
@@ -88,7 +85,6 @@ class fraVariable final : public PanelFrame {
   MeasureBox* txtVariableNumTeeth_ = nullptr;
   MeasureBox* txtNumberOfSegments_ = nullptr;
   MeasureBox* txtSegmentSize_ = nullptr;
-  QPushButton* cmdVariablePrint_ = nullptr;
 };
 
 }  // namespace tarnwick

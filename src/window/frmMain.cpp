@@ -218,6 +218,8 @@ void frmMain::BindVariable() {
   bind(&fraVariable::ResetPressed, "cmdVariableReset", &VariableCommands::PressVariableReset);
   bind(&fraVariable::Accepted, "cmdVariableOK", &VariableCommands::PressVariableOk);
   bind(&fraVariable::Cancelled, "cmdVariableCancel", &VariableCommands::PressVariableCancel);
+  connect(fraVariable_, &fraVariable::PrintPressed, this,
+          [this] { Run("cmdVariablePrint", [this] { hosts_.Printing.PrintVariableSegment(); }); });
   connect(fraVariable_, &fraVariable::Hovered, this, [this](const QString& hint, int topic) {
     helpTopic_ = topic;
     ShowStatus(hint.toStdString(), "");

@@ -82,6 +82,7 @@ void frmMain::MakeMenu() {
 }
 
 void frmMain::MakeFileMenu() {
+  PrintCommands& printing = hosts_.Printing;
   QMenu* file = mnuFile_ = AddMenu("mnuFile", "&File");
   AddItem(file, "mnuItemNew", "&New", "", [this] { documents_.New(); });
   AddItem(file, "mnuItemStepByStep", "Ne&w Step by Step", "", [this] { documents_.NewStepByStep(); });
@@ -92,7 +93,14 @@ void frmMain::MakeFileMenu() {
   QMenu* exports = AddSubmenu(file, "mnuItemExport", "Export");
   AddItem(exports, "mnuItemExportDxf", "Drawing to a Dxf File", "", [this] { documents_.ExportDxf(); });
   AddItem(exports, "mnuItemSaveText", "Information to a Text File", "", [this] { documents_.SaveText(); });
+  AddItem(exports, "mnuItemExportPdf", "Print Outs to a Pdf File", "", [&printing] { printing.ExportPdf(); });
   AddSeparator(file, "mnuItemFileSep1");
+  AddItem(file, "mnuItemPrint", "&Print", "", [&printing] { printing.PrintSaw(); });
+  QMenu* prints = AddSubmenu(file, "mnuItemPrintOnly", "P&rint Outs");
+  AddItem(prints, "mnuItemPrintInfo", "&Information Sheet", "", [&printing] { printing.PrintInfoOnly(); });
+  AddItem(prints, "mnuItemPrintShape", "&Toothshape", "", [&printing] { printing.PrintShapeOnly(); });
+  AddItem(prints, "mnuItemPrintVariable", "&Variable Pitch Segment", "",
+          [&printing] { printing.PrintVariableSegment(); });
   AddSeparator(file, "mnuSepFile2")->setVisible(false);
   mnuRecentFiles_ = {AddSeparator(file, "mnuRecentFiles(0)")};
   belowRecentFiles_ = AddSeparator(file, "mnuItemFileSep3");

@@ -146,7 +146,7 @@ TEST_F(PrintCommandsTest, PrintBothSheetsOfTheSaw) {
 }
 
 TEST_F(PrintCommandsTest, PrintTheSheetsChosen) {
-  Windows.Acts = {OkFor(SawPages::SawDrawing), OkFor(SawPages::SawInfo)};
+  Windows.Acts = {OkFor(SawPages::Drawing), OkFor(SawPages::Info)};
   Commands.PrintSaw();
   Commands.PrintSaw();
   ASSERT_EQ(Printer.Jobs.size(), 2U);

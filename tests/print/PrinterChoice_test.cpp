@@ -48,11 +48,11 @@ TEST(PrinterChoice, IsAcceptedByOkAndNotByCancel) {
 TEST(PrinterChoice, TakesWhatIsClicked) {
   Desk desk;
   desk.Choice.Select(2);
-  desk.Choice.ChoosePages(SawPages::SawInfo);
+  desk.Choice.ChoosePages(SawPages::Info);
   desk.Choice.TickQuality(true);
   desk.Choice.TickSavePrinter(true);
   EXPECT_EQ(desk.Choice.Name(), "Gamma");
-  EXPECT_EQ(desk.Choice.Pages(), SawPages::SawInfo);
+  EXPECT_EQ(desk.Choice.Pages(), SawPages::Info);
   EXPECT_EQ(desk.Choice.Quality(), PrintQuality::High);
   EXPECT_TRUE(desk.Choice.SavesPrinter());
   desk.Choice.TickQuality(false);

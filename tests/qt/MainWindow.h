@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "dxf/modDXF.h"
 #include "geometry/modTooth.h"
@@ -96,6 +97,19 @@ class DialogUser final : public QObject {
     timer_.start(2);
   }
 
+  /// Within an act: clicks a control of its dialog, which opens another one.
+  void Answer(QDialog& dialog, const char* control, const Act& act) {
+    QTimer above;  // a timer whose turn has not ended has no other
+    QObject::connect(&above, &QTimer::timeout, this, [this] { Look(); });
+    above.start(2);
+    const QDialog* before = std::exchange(Window, &dialog);
+    Acts.push_front(act);
+    busy_ = false;
+    QTest::mouseClick(Named<QWidget>(dialog, control), Qt::LeftButton);
+    busy_ = true;
+    Window = before;
+  }
+
   std::deque<Act> Acts;
   QStringList Seen;                 // "frmCDialog: Band Saw Length", in order; and complaints
   const QDialog* Window = nullptr;  // the one that is tested; no answer is due to it
@@ -104,6 +118,7 @@ class DialogUser final : public QObject {
   void Look() {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (busy_ || !dialog || !dialog->isVisible() || dialog == Window) return;
+    if (dialog->objectName() == "frmPrintMsg") return;  // a notice
     busy_ = true;
     Seen += dialog->objectName() + ": " + dialog->windowTitle();
     if (Acts.empty()) {
@@ -237,7 +252,7 @@ class MainWindow {
 
   TemporaryFolder Folder;
   TestProgram Program;
-  QtHosts Hosts{Program.Help};
+  QtHosts Hosts{Program.Process};
   std::unique_ptr<frmMain> Window;
   DialogUser User;
 };

@@ -11,7 +11,7 @@
 #include "cli/Design.h"
 #include "geometry/modTooth.h"
 #include "platform/qt/QtDialogHost.h"
-#include "platform/qt/QtPowerHost.h"
+#include "platform/qt/QtHosts.h"
 #include "qt/MainWindow.h"
 #include "support/PowerDesign.h"
 #include "support/TestProgram.h"
@@ -22,7 +22,8 @@ namespace tarnwick::test {
 struct PowerBench {
   TestProgram Program;
   QtDialogHost Dialogs{Program.Help};
-  QtPowerHost Windows{Program.Help};
+  QtHosts Hosts{Program.Process};
+  PowerHost& Windows = Hosts.All().Power;
   DialogUser User;
 
   PowerBench() { Program.Start(); }

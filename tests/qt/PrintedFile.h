@@ -58,6 +58,13 @@ class PrintedFile {
     return words;
   }
 
+  /// Its words, a blank between two.
+  [[nodiscard]] QString Text(int page = 1) const {
+    QStringList words;
+    for (const PrintedWord& word : Words(page)) words += word.Text;
+    return words.join(' ');
+  }
+
   /// A part of a sheet as it comes out of a printer of 1440 dots to the inch: a pixel is a twip.
   [[nodiscard]] QImage Part(const QRect& twips, int page = 1) const {
     return Picture(page, {"-r", "1440", "-x", QString::number(twips.x()), "-y", QString::number(twips.y()),

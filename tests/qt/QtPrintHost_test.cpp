@@ -83,7 +83,7 @@ void QtPrintHostTest::runsTheChoiceOfPrinterAndPages() {
   });
   host_.RunPrinterPage(choice);
   QVERIFY(choice.IsAccepted());
-  QCOMPARE(choice.Pages(), SawPages::SawInfo);
+  QCOMPARE(choice.Pages(), SawPages::Info);
 }
 
 void QtPrintHostTest::standsAboveTheWindowInUse() {

@@ -148,7 +148,6 @@ class fraVariableTest : public QObject {
   void doesNotTurnTheListByTheWheel();
   void tellsTheTick();
   void tellsTheButtons();
-  void hidesPrintUntilThereIsPrinting();
   void hintsAtWhatTheMouseIsOver();
   void hintsAtABoxThatIsOnlyRead();
   void hintsAtWhatTabReaches();
@@ -407,7 +406,6 @@ void fraVariableTest::tellsTheTick() {
 }
 
 void fraVariableTest::tellsTheButtons() {
-  panel_->ShowPrint(true);
   QCOMPARE(test::AccessKeys(*panel_).size(), 4);
   QStringList keys = test::AccessKeys(*panel_).split("", Qt::SkipEmptyParts);
   keys.sort();
@@ -422,22 +420,13 @@ void fraVariableTest::tellsTheButtons() {
   }
   QCOMPARE(told_, QStringList({"reset", "print", "ok", "cancel", "reset", "print", "ok", "cancel"}));
   told_.clear();
-  for (const char* button : {"cmdVariableReset", "cmdVariableOK", "cmdVariableCancel"}) {
+  for (const char* button : {"cmdVariableReset", "cmdVariablePrint", "cmdVariableOK", "cmdVariableCancel"}) {
     auto* pressed = Named<QPushButton>(*panel_, button);
     pressed->setFocus();
     QTest::keyClick(pressed, Qt::Key_Return);
     QTest::keyClick(pressed, Qt::Key_Space);
   }
-  QCOMPARE(told_, QStringList({"reset", "reset", "ok", "ok", "cancel", "cancel"}));
-}
-
-void fraVariableTest::hidesPrintUntilThereIsPrinting() {
-  auto* print = Named<QPushButton>(*panel_, "cmdVariablePrint");
-  QVERIFY(!print->isVisible());
-  panel_->ShowPrint(true);
-  QVERIFY(print->isVisible());
-  panel_->ShowPrint(false);
-  QVERIFY(!print->isVisible());
+  QCOMPARE(told_, QStringList({"reset", "reset", "print", "print", "ok", "ok", "cancel", "cancel"}));
 }
 
 // ---- hints, keys
@@ -493,6 +482,7 @@ void fraVariableTest::tabsInReadingOrder() {
   for (int k = 0; k < 5; ++k) expected << Indexed("txtToothSpace", k) << Indexed("txtToothDepth", k);
   expected << "txtAverageSpace"
            << "txtAverageDepth"
+           << "cmdVariablePrint"
            << "cmdVariableReset"
            << "cmdVariableOK"
            << "cmdVariableCancel";
@@ -509,7 +499,7 @@ void fraVariableTest::tabsInReadingOrder() {
 void fraVariableTest::bringsTheBoxOfTheFocusIntoSight() {
   panel_->resize(panel_->width(), 260);
   QTest::qWait(10);
-  auto* last = Named<QWidget>(*panel_, "txtAverageDepth");
+  auto* last = Named<QWidget>(*panel_, "cmdVariablePrint");
   QVERIFY(last->visibleRegion().isEmpty());
   Named<QWidget>(*panel_, "cmdVariableReset")->setFocus();
   QTest::keyClick(panel_->focusWidget(), Qt::Key_Backtab);

@@ -96,7 +96,7 @@ void frmMainTest::init() {
   folder_ = std::make_unique<test::TemporaryFolder>();
   head_ = Stored("head.bsw", PlainDesign());
   program_ = std::make_unique<test::TestProgram>();
-  hosts_ = std::make_unique<QtHosts>(program_->Help);
+  hosts_ = std::make_unique<QtHosts>(program_->Process);
 }
 
 void frmMainTest::Open(const std::string& path) {

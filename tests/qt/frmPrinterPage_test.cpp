@@ -64,8 +64,8 @@ void frmPrinterPageTest::opensOnBothPages() {
 void frmPrinterPageTest::choosesPagesByMouse_data() {
   QTest::addColumn<QString>("option");
   QTest::addColumn<SawPages>("pages");
-  QTest::newRow("drawing") << "optSawDrawing" << SawPages::SawDrawing;
-  QTest::newRow("information") << "optSawInfo" << SawPages::SawInfo;
+  QTest::newRow("drawing") << "optSawDrawing" << SawPages::Drawing;
+  QTest::newRow("information") << "optSawInfo" << SawPages::Info;
 }
 
 void frmPrinterPageTest::choosesPagesByMouse() {
@@ -80,9 +80,9 @@ void frmPrinterPageTest::choosesPagesByMouse() {
 void frmPrinterPageTest::choosesPagesByKeys() {
   QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
   QTest::keyClick(window_->focusWidget(), Qt::Key_Down);
-  QCOMPARE(choice_->Pages(), SawPages::SawDrawing);
+  QCOMPARE(choice_->Pages(), SawPages::Drawing);
   QTest::keyClick(window_->focusWidget(), Qt::Key_Down);
-  QCOMPARE(choice_->Pages(), SawPages::SawInfo);
+  QCOMPARE(choice_->Pages(), SawPages::Info);
 }
 
 void frmPrinterPageTest::asksForTheQuality() {

@@ -112,7 +112,7 @@ class mainOptionsTest : public QObject {
 
 void mainOptionsTest::init() {
   program_ = std::make_unique<test::TestProgram>();
-  hosts_ = std::make_unique<QtHosts>(program_->Help);
+  hosts_ = std::make_unique<QtHosts>(program_->Process);
   program_->Start(program_->Documents.File("head.bsw", BandSawText(ManyTeeth())).string());
   Open();
 }

@@ -5,10 +5,13 @@
 
 namespace tarnwick {
 
+class PrintCommands;
+
 /// The power windows as dialogs above the window in use.
 class QtPowerHost final : public PowerHost {
  public:
-  explicit QtPowerHost(HelpViewer& help) : help_(help) {}
+  /// @param printing  what their print buttons run
+  QtPowerHost(HelpViewer& help, PrintCommands& printing) : help_(help), printing_(printing) {}
 
   void Run(PowerEditor& editor) override;
   void Run(PowerEstimateList& estimates) override;
@@ -16,6 +19,7 @@ class QtPowerHost final : public PowerHost {
 
  private:
   HelpViewer& help_;
+  PrintCommands& printing_;
 };
 
 }  // namespace tarnwick
