@@ -12,7 +12,8 @@ enum class LineRole { Piece, Outline, LapEnd };
 
 inline constexpr int PiecesPerTooth = 16;  // as many as a list makes room for; no style has them all
 
-/// Appends pieces that exist: a line whose ends lie apart, an arc with a radius. What finds no room is
+/// Appends pieces that exist: a line whose ends lie apart, an arc with a radius. A radius beyond all numbers,
+/// which a damaged file may hold, is none: nothing could read a drawing with it. What finds no room is
 /// counted and lost.
 class PieceList {
  public:
@@ -26,7 +27,7 @@ class PieceList {
     return true;
   }
   bool Add(const ToothArc& arc) {
-    if (!(arc.Radius > 0)) return false;
+    if (!(arc.Radius > 0 && std::isfinite(arc.Radius))) return false;
     Append(ArcEntity{arc.CenterX, arc.CenterY, arc.Radius, arc.StartAngle, arc.EndAngle});
     return true;
   }

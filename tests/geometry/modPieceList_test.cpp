@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <variant>
 
 namespace tarnwick {
@@ -41,6 +42,8 @@ TEST(PieceList, LeavesOutWhatDoesNotExist) {
   pieces.Add(ToothLine{{1, 2}, {1, 2.000004}});  // no way apart at five places
   pieces.Add(ToothArc{1, 2, 0, 30, 40});
   pieces.Add(ToothArc{1, 2, -0.5, 30, 40});
+  pieces.Add(ToothArc{1, 2, std::numeric_limits<double>::infinity(), 30, 40});
+  pieces.Add(ToothArc{1, 2, std::numeric_limits<double>::quiet_NaN(), 30, 40});
   EXPECT_EQ(list.Count(), 0U);
 }
 
