@@ -113,7 +113,8 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   const std::string hint = option ? option->accessibleDescription().toStdString() : std::string();
   if (event->type() == QEvent::Enter || (event->type() == QEvent::FocusIn && IsTabStep(*event)))
     ShowStatus(hint, "");
-  if (event->type() == QEvent::FocusOut && lblStatus_->text() == ToQt(hint)) ShowStatus("", "");
+  const bool isLeft = event->type() == QEvent::Leave || event->type() == QEvent::FocusOut;
+  if (isLeft && lblStatus_->text() == ToQt(hint)) ShowStatus("", "");
   return QMainWindow::eventFilter(watched, event);
 }
 

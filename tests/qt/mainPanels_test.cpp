@@ -247,6 +247,7 @@ class mainPanelsTest : public QObject {
   void explainsTheTooth();
   void explainsTheGeneral();
   void explainsTheUnitsByTab();
+  void explainsNothingThatTheMouseHasLeft();
 
   void takesTypedTexts();
   void takesNothingByBeingOpened();
@@ -541,6 +542,21 @@ void mainPanelsTest::explainsTheUnitsByTab() {
   QTest::keyClick(ok, Qt::Key_Space);
   QCOMPARE(main_->Panel(), QString("fraMain"));
   QCOMPARE(main_->Status(), QString());
+}
+
+/// A quick hand passes over no background between a control and the bar at the foot.
+void mainPanelsTest::explainsNothingThatTheMouseHasLeft() {
+  main_->Open(test::FullDesign());
+  main_->Do("mnuItemToothShape");
+  auto* clock = Named<QWidget>(*main_->Window, "panTimeDate");
+  for (const char* control : {"optImperial", "optMetric", "txtHook", "lblHook", "cmdToothOK", "tlbNew"}) {
+    main_->PointAt(Named<QWidget>(*main_->Window, control));
+    QVERIFY2(!main_->Status().isEmpty(), control);
+    QTest::mouseMove(main_->Window.get(), clock->mapTo(main_->Window.get(), clock->rect().center()));
+    QApplication::processEvents();
+    QVERIFY2(main_->Status().isEmpty(), control);
+    QVERIFY2(main_->Hint().isEmpty(), control);
+  }
 }
 
 // ---- texts
