@@ -15,9 +15,9 @@ namespace tarnwick::fuzz {
 class ScratchFolder {
  public:
   explicit ScratchFolder(std::string_view name) {
-    const std::filesystem::path inMemory = "/dev/shm";
-    const auto parent =
-        std::filesystem::is_directory(inMemory) ? inMemory : std::filesystem::temp_directory_path();
+    const char* inMemory = "/dev/shm";
+    const auto parent = access(inMemory, W_OK) == 0 ? std::filesystem::path(inMemory)
+                                                    : std::filesystem::temp_directory_path();
     path_ = parent / ("tarnwick-fuzz-" + std::string(name) + "-" + std::to_string(getpid()));
     std::filesystem::remove_all(path_);
     std::filesystem::create_directory(path_);

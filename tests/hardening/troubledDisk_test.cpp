@@ -5,6 +5,7 @@
 #include "support/TroubledDisk.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -189,7 +190,7 @@ class OnATroubledDisk : public testing::Test {
 
   // In memory, where the platform has such a place: it is the asking that counts here, and thousands of
   // files.
-  const test::EnvironmentVariable place_{"TMPDIR", fs::is_directory("/dev/shm") ? "/dev/shm" : "/tmp"};
+  const test::EnvironmentVariable place_{"TMPDIR", access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp"};
   int troubles_ = 0;
 };
 
@@ -543,6 +544,24 @@ TEST_F(OnATroubledDisk, ACopyThatCouldNotBeWrittenIsWrittenAfterTheNextChange) {
   Sweep({Kind::Fails}, WithADocument, Does([](DiskDesk&) {}, act), [](const Left& left) {
     EXPECT_TRUE(left.Copy() == Now || left.Copy() == Now + 1) << left.Copy();
     EXPECT_EQ(left.Told, Texts());
+  });
+}
+
+TEST_F(OnATroubledDisk, ACopyOutlivesEveryStartUntilTheDesignIsSaved) {
+  const auto scene = [](const fs::path& folder) {
+    WithADocument(folder);
+    DiskDesk desk(folder);
+    ChangeDocument(desk);  // and here it ended, with nothing saved
+  };
+  const auto start = [](DiskDesk& desk) {
+    desk.Commands.Begin();
+    desk.Commands.NoteForRecovery();
+  };
+  Sweep(AllKinds, scene, Does([](DiskDesk&) {}, start), [](const Left& left) {
+    EXPECT_EQ(left.Copy(), Now);
+    EXPECT_EQ(left.Told, Texts());
+    if (left.Is == Kind::Dies) return ExpectFoundAtTheNextStart(left, Document);
+    EXPECT_TRUE(left.State == "changed 12" || left.State == "saved 0") << left.State;
   });
 }
 

@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr unsigned PatienceSeconds = 10;
+constexpr unsigned PatienceSeconds = 60;
 constexpr int WorkFailed = 70, NotToBeTraced = 71;  // exit codes
 
 /// How an operation says what it is about.

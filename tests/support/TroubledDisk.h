@@ -42,7 +42,7 @@ using TroubledWork = std::function<std::function<std::string()>()>;
 /// for them. The one that is named is in trouble. Preparing is not counted.
 ///
 /// No library stands in between, so it is all the same what the program is made of or checked by. A work
-/// that hangs is killed after ten seconds. On Linux, x86-64, alone: it is the kernel that is spoken to.
+/// that hangs is killed after a minute. On Linux, x86-64, alone: it is the kernel that is spoken to.
 [[nodiscard]] TroubledRun RunTroubled(const std::filesystem::path& folder, Trouble trouble,
                                       const TroubledWork& prepare);
 
