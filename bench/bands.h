@@ -9,7 +9,8 @@ namespace tarnwick::bench {
 
 inline constexpr int UsualTeeth = 137;  // of a 20 ft band at 1 3/4 in
 inline constexpr int ManyTeeth = 1000;
-inline constexpr int MostTeeth = 32000;  // close to what the record can count
+inline constexpr int ExportedTeeth = 8000;  // close to what a drawing file may hold
+inline constexpr int MostTeeth = 32000;     // close to what the record can count
 
 /// Pairs for the longest band with teeth on both edges: past what a user can set, so that its text can be
 /// measured too.

@@ -1,5 +1,4 @@
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -8,6 +7,7 @@
 #include "bands.h"
 #include "dxf/modDXF.h"
 #include "floor.h"
+#include "scratch_file.h"
 
 // From the drawing to its text, and to the file.
 namespace tarnwick::bench {
@@ -32,20 +32,6 @@ void CopyText(benchmark::State& state) {
   const std::string text = DxfText(RoundBackDrawing(state), RoomySettings).value();
   MeasureCopy(state, text.data(), text.size());
 }
-
-/// A file name of this run's own, and nothing left under it afterwards.
-class ScratchFile {
- public:
-  ~ScratchFile() {
-    std::error_code ignored;
-    std::filesystem::remove(name_, ignored);
-  }
-  [[nodiscard]] const std::filesystem::path& Name() const { return name_; }
-
- private:
-  std::filesystem::path name_ =
-      std::filesystem::temp_directory_path() / ("tarnwick-bench-" + std::to_string(getpid()) + ".dxf");
-};
 
 void WriteDrawing(benchmark::State& state) {
   const EntityList list = RoundBackDrawing(state);
@@ -77,8 +63,8 @@ void WriteBytes(benchmark::State& state) {
 
 BENCHMARK(MakeText)->Arg(UsualTeeth)->Arg(MostTeeth);
 BENCHMARK(CopyText)->Arg(UsualTeeth)->Arg(MostTeeth);
-BENCHMARK(WriteDrawing)->Arg(UsualTeeth)->Arg(MostTeeth)->UseRealTime();
-BENCHMARK(WriteBytes)->Arg(UsualTeeth)->Arg(MostTeeth)->UseRealTime();
+BENCHMARK(WriteDrawing)->Arg(UsualTeeth)->Arg(ExportedTeeth)->Arg(MostTeeth)->UseRealTime();
+BENCHMARK(WriteBytes)->Arg(UsualTeeth)->Arg(ExportedTeeth)->Arg(MostTeeth)->UseRealTime();
 
 }  // namespace
 }  // namespace tarnwick::bench

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""The table of the README: how long a band takes, beside the floor under it, all from one run.
+"""The tables of the README: how long a band takes, beside the floor under it and beside what else writes drawings, all
+from one run.
 
-    bench/report.py [BENCHMARKS]      the program of the bench preset; build/bench/bench/tarnwick_bench by default
+    bench/report.py [FOLDER]      the build folder of the bench preset; build/bench by default
 
 The floor is what the same bytes cost when nothing is worked out: copying the list or the text in memory, writing the
 text to a file.  Repetitions of all measurements are mixed with each other, so that a busy moment of the machine falls
@@ -10,8 +11,10 @@ on top, about as much again at 32,000 teeth.  Exit code 1 when a target is misse
 """
 
 import json
+import statistics
 import subprocess
 import sys
+import tempfile
 from collections import namedtuple
 from pathlib import Path
 
@@ -36,12 +39,20 @@ ROWS = (
     Row("DXF file, 32,000 teeth", "WriteDrawing/32000/real_time", "WriteBytes/32000/real_time", NO_TARGET),
 )
 GROWTH = "GrowthWithTeeth"
+
+# Writers of the same lines and arcs, of benchmarks and of dxf_scripts.py. The scripts run on after the benchmarks.
+WRITERS = (("Tarnwick", "WriteDrawing/{}/real_time"), ("dxflib, a C++ library", "WriteByLibrary/{}/real_time"),
+           ("Python script, by hand", "by hand"), ("Python script, ezdxf", "ezdxf"))
+FLOOR_OF_WRITERS = "WriteBytes/{}/real_time"
+WRITTEN_TEETH = (137, 8000)
 UNITS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
 
 
 def run(program):
-    names = sorted({name for row in ROWS for name in (row.benchmark, row.floor)})
-    command = [program, f"--benchmark_filter=^({'|'.join(names)})$|^{GROWTH}/", "--benchmark_format=json",
+    names = {name for row in ROWS for name in (row.benchmark, row.floor)}
+    names |= {name.format(teeth) for teeth in WRITTEN_TEETH
+              for name in (FLOOR_OF_WRITERS, *(name for _, name in WRITERS)) if "/" in name}
+    command = [str(program), f"--benchmark_filter=^({'|'.join(sorted(names))})$|^{GROWTH}/", "--benchmark_format=json",
                "--benchmark_min_time=0.05", f"--benchmark_repetitions={REPETITIONS}",
                "--benchmark_enable_random_interleaving=true"]
     return json.loads(subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout)
@@ -89,10 +100,54 @@ def report(measured):
     return missed
 
 
+def resaw_band(teeth):
+    """The band of the benchmarks, as a design for the tool."""
+    gullet = {"Radius": 0.3125, "Depth": 0.55, "BackAngle": 16, "BackRadius": 0.2}
+    return json.dumps({"ToothStyle": 2, "Pitch": 1.75, "Length": teeth * 1.75 / 12, "Width": 4, "HookAngle": 20,
+                       "ClearAngle": 12, "GulletInfo": gullet, "GeneralInfo": {"PlateThick": 0.042}})
+
+
+def run_scripts(tool):
+    """Median seconds of each script, by its name and the number of teeth."""
+    with tempfile.TemporaryDirectory() as folder:
+        drawings = []
+        for teeth in WRITTEN_TEETH:
+            drawings.append(f"{folder}/{teeth}.dxf")
+            subprocess.run([tool, "dxf", "-", "-o", drawings[-1], "--memory-size", "512000", "--defaults"],
+                           input=resaw_band(teeth), check=True, text=True)
+        scripts = Path(__file__).resolve().parent / "dxf_scripts.py"
+        lines = subprocess.run(["/usr/bin/python3", "-B", scripts, *drawings], check=True, stdout=subprocess.PIPE,
+                               text=True).stdout.splitlines()
+    found = {}
+    for teeth, line in zip(WRITTEN_TEETH, lines):
+        result = json.loads(line)
+        for name in ("by hand", "ezdxf"):
+            found[name, teeth] = statistics.median(result[name]["seconds"])
+    return found
+
+
+def report_writers(measured, scripts):
+    """The drawing file of the same band, by everybody who writes it."""
+    found = medians(measured)
+    print()
+    print("| DXF file of a band | " + " | ".join(f"{teeth:,} teeth | times ours" for teeth in WRITTEN_TEETH) + " |")
+    print("|---" * (1 + 2 * len(WRITTEN_TEETH)) + "|")
+    for who, name in (*WRITERS, ("the same bytes, ready made", FLOOR_OF_WRITERS)):
+        cells = []
+        for teeth in WRITTEN_TEETH:
+            ours = found[WRITERS[0][1].format(teeth)][0]
+            seconds = found[name.format(teeth)][0] if "/" in name else scripts[name, teeth]
+            ratio = seconds / ours
+            cells += [shown(seconds), f"{ratio:.0f}" if ratio >= 10 else f"{ratio:.2g}"]
+        print(f"| {who} | " + " | ".join(cells) + " |")
+
+
 def main():
-    default = Path(__file__).resolve().parent.parent / "build/bench/bench/tarnwick_bench"
-    program = sys.argv[1] if len(sys.argv) > 1 else str(default)
-    return 1 if report(run(program)["benchmarks"]) else 0
+    build = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent / "build/bench")
+    measured = run(build / "bench/tarnwick_bench")["benchmarks"]
+    missed = report(measured)
+    report_writers(measured, run_scripts(build / "src/tarnwick-cli"))
+    return 1 if missed else 0
 
 
 if __name__ == "__main__":

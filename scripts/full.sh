@@ -132,6 +132,7 @@ stage_drawings() {
 stage_benchmarks() {
   build_preset bench
   build/bench/bench/tarnwick_bench --benchmark_min_time=0.01
+  /usr/bin/python3 -B bench/dxf_scripts.py build/drawings/round-back.dxf
   build/bench/bench/tarnwick_qt_bench --benchmark_min_time=0.01
   QT_QPA_PLATFORM=offscreen /usr/bin/python3 -B bench/start_bench.py build/bench/bench/tarnwick_start_window
 }
