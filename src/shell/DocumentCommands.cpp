@@ -55,14 +55,6 @@ std::size_t TitleStart(const std::string& path) {
 /// Anywhere in the path.
 bool HoldsExtension(const std::string& path) { return Contains(path, Extension); }
 
-/// Whether there is a file that is no design, as its bytes say. One that cannot be read has not said so: on a
-/// disk that failed for a moment, or a computer that was out of reach, it may well be a design.
-bool IsNoBandSaw(const std::filesystem::path& path) {
-  if (!FileExists(path)) return false;
-  const FileBytes file = ReadFile(path, BandSawFileSize);
-  return !file.Error && !ReadBandSaw(file.Bytes).Usable();
-}
-
 bool HasExtension(const std::string& path) { return Contains(path.substr(TitleStart(path)), "."); }
 
 }  // namespace
@@ -258,10 +250,11 @@ void DocumentCommands::ShowOpened() {
   FillAll();
 }
 
-/// What is no band saw file leaves a blank, unnamed design.
+/// What is no band saw file leaves a blank, unnamed design. Open removes it with no question, also when it
+/// was the disk that failed: meant so, and a desktop keeps it in its trash.
 void DocumentCommands::ShowRefused(Refused refused) {
   const std::string path = Design().SawDir() + Design().FileName;
-  if (refused == Refused::Removed && IsNoBandSaw(FilePath(path))) desk_.Process.Out.Bin.Remove(path);
+  if (refused == Refused::Removed && FileExists(FilePath(path))) desk_.Process.Out.Bin.Remove(path);
   Design().FileName = UntitledName;
   Design().KeepAsSaved();
   desk_.Window.ShowCaption();
