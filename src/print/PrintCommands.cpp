@@ -64,13 +64,17 @@ struct PrintCommands::Work {
 
 // ---- the printer
 
+/// The printers there are; says so when there is none.
+std::vector<std::string> PrintCommands::FindPrinters() const {
+  std::vector<std::string> printers = desk_.Printer.Printers();
+  if (printers.empty()) Say().Show(NoPrinters());
+  return printers;
+}
+
 /// Has a printer chosen, which is the current one then.
 std::optional<PrinterChoice> PrintCommands::ChoosePrinter(RunChoice run, std::string_view procedure) {
-  std::vector<std::string> printers = desk_.Printer.Printers();
-  if (printers.empty()) {
-    Say().Show(NoPrinters());
-    return std::nullopt;
-  }
+  std::vector<std::string> printers = FindPrinters();
+  if (printers.empty()) return std::nullopt;
   std::int16_t& saved = Design().Settings.DefaultPrinter;
   if (saved < 0 || static_cast<std::size_t>(saved) >= printers.size()) saved = 0;
   PrinterChoice choice(std::move(printers), static_cast<std::size_t>(saved),
@@ -203,6 +207,7 @@ void PrintCommands::PrintPower(const PowerSheetText& text, std::string title, st
 }
 
 void PrintCommands::PrintEstimates(PowerEditor& editor) {
+  if (FindPrinters().empty()) return;  // ahead of the percent, which is of no use then
   if (const std::optional<PowerEstimateList> estimates = editor.Estimates()) PrintEstimates(*estimates);
 }
 

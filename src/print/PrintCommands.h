@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "platform/PdfFiles.h"
 #include "platform/PrintDevice.h"
@@ -54,6 +55,7 @@ class PrintCommands {
 
   [[nodiscard]] OpenDesign& Design() const { return desk_.Process.Design; }
   [[nodiscard]] Messages& Say() const { return desk_.Process.Out.Say; }
+  [[nodiscard]] std::vector<std::string> FindPrinters() const;
   std::optional<PrinterChoice> ChoosePrinter(RunChoice run, std::string_view procedure);
   [[nodiscard]] bool TakePrinter(const PrinterChoice& choice);
   [[nodiscard]] Work OnPrinter(std::string title, std::string_view procedure) const;

@@ -8,13 +8,20 @@ namespace {
 constexpr int RowsOfABlock = 50;
 constexpr double HeadingHeight = 1.5 * SheetRow;  // with the air below it
 
+/// How many rows stand one below the other, the foot and the empty row above it among them.
+int RowsOf(const PowerSheetText& text) {
+  const int rows = static_cast<int>(text.Lines.size()) + (text.Foot.empty() ? 0 : 2);
+  return std::clamp(rows, 1, RowsOfABlock);
+}
+
 /// Prints line after line.
 class LinePrinter {
  public:
-  LinePrinter(PrintSheet& sheet, const PrintPage& page, double top)
+  /// @param rows  that the sheet is to hold
+  LinePrinter(PrintSheet& sheet, const PrintPage& page, double top, int rows)
       : sheet_(sheet),
         top_(top),
-        squeeze_(std::min(1.0, (page.Height - FootMargin - top) / (RowsOfABlock * SheetRow))),
+        squeeze_(std::min(1.0, (page.Height - FootMargin - top) / (rows * SheetRow))),
         points_(std::min(TextPoints, MostOfRow * squeeze_ * SheetRow / TwipsPerPoint)) {}
 
   void Print(const std::string& label, const std::string& text = {}, bool heading = false) {
@@ -46,7 +53,7 @@ std::string InColumn(const std::string& text) {
 void AppendPowerLines(PrintSheet& sheet, const PowerSheetText& text, const PrintPage& page, double top) {
   sheet.push_back(
       SheetText{{static_cast<double>(PlaceOfPowerRow(0).LabelX), top}, text.Heading, {TextPoints, true}});
-  LinePrinter printer(sheet, page, top + HeadingHeight);
+  LinePrinter printer(sheet, page, top + HeadingHeight, RowsOf(text));
   for (const PowerLine& line : text.Lines) {
     if (line.Is == PowerLine::Role::Blank) {
       printer.Skip();

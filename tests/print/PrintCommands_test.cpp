@@ -515,6 +515,16 @@ TEST_F(PrintCommandsTest, AskForAPercentBeforeThePrinter) {
             (Texts{"Select Percent: You must first select a percent from the above list. [information]"}));
 }
 
+TEST_F(PrintCommandsTest, SayThatThereIsNoPrinterBeforeAskingForAPercent) {
+  Printer.Names.clear();
+  test::ScriptedDialogHost dialogs;
+  test::ScriptedPowerHost power;
+  PowerEditor editor(Process, dialogs, power);
+  editor.GetSawPowerData(test::PowerDesign());
+  Commands.PrintEstimates(editor);
+  EXPECT_EQ(Log(), Texts{NoPrinters});
+}
+
 TEST_F(PrintCommandsTest, PrintBothCalculationsOnOneSheet) {
   test::ScriptedDialogHost dialogs;
   PowerCalculator calculator(Process, dialogs);

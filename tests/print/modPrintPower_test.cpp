@@ -72,6 +72,24 @@ TEST(PowerLines, WriteHeadingsBoldMarksBehindValuesAndNothingOfABlankLine) {
   ExpectText(sheet, " 121 fpm*", 3950, Lines + 2 * 265);
 }
 
+TEST(PowerLines, KeepTheirHeightWhereTheSheetHasFewOfThem) {
+  // The power calculator's sheet has 41 rows, and a header may end as low as this.
+  PowerSheetText text = Figures(41);
+  text.Foot.clear();
+  const double begin = 2500 + 1.5 * 265;
+  const PrintSheet sheet = Sheet(text, Upright, 2500);
+  ExpectText(sheet, "label 0", 1200, begin);
+  ExpectText(sheet, "label 40", 1200, begin + 40 * 265);
+}
+
+TEST(PowerLines, MoveTogetherForTheFootToo) {
+  const PrintSheet sheet = Sheet(Figures(46), Upright, 2600);
+  const SheetText* foot = test::FindText(sheet, "Foot");
+  ASSERT_TRUE(foot);
+  EXPECT_GT(foot->TopLeft.Y, 2600 + 1.5 * 265 + 46 * 260);
+  EXPECT_LE(foot->TopLeft.Y + foot->Font.Points * TwipsPerPoint, Upright.Height - FootMargin);
+}
+
 TEST(PowerLines, MoveTogetherWhereThePaperIsTooShortForFiftyRows) {
   const struct {
     const PrintPage& Page;
