@@ -120,9 +120,26 @@ TEST(SegmentHeader, HasItsLabelBesideTheCompany) {
   PrintSheet sheet;
   AppendSegmentHeader(sheet, {"oak.bsw", "Nov, 21/26", Mill()}, SegmentLabel(2, 3), PageFor({}),
                       test::EvenRuler());
-  ExpectText(sheet, "Pg 2 of 3", 6100, 662.5, {TextPoints});
+  ExpectText(sheet, "Pg 2 of 3", 8700, 662.5, {TextPoints});
   ExpectText(sheet, "E-mail: saws@example.org", 1100, 1921.25, {TextPoints});
   EXPECT_EQ(sheet.size(), 9U) << "one label only";
+}
+
+TEST(SegmentHeader, KeepsACompanyOfALongNameClearOfItsLabel) {
+  CustomerLines customer = Mill();
+  for (const std::size_t letters : {45U, 90U, 120U}) {
+    customer.Name = std::string(letters, 'n');
+    PrintSheet sheet, other;
+    AppendSegmentHeader(sheet, {"oak.bsw", "Nov, 21/26", customer}, SegmentLabel(2, 3), PageFor({}),
+                        test::EvenRuler());
+    AppendHeader(other, {"oak.bsw", "Nov, 21/26", customer}, PageLabel(2, 3), PageFor({}), test::EvenRuler());
+    const auto end = [&](const PrintSheet& printed) {
+      const SheetText* name = test::FindText(printed, customer.Name);
+      return name ? name->TopLeft.X + test::EvenRuler::SizeOf(name->Text, name->Font).Width : 1e9;
+    };
+    EXPECT_LT(end(sheet), 8700) << letters;
+    EXPECT_LT(end(other), 10100) << letters;
+  }
 }
 
 }  // namespace
