@@ -10,6 +10,8 @@ namespace tarnwick {
 
 /// The window of a YesNoDialog.
 class frmBDialog final : public QuestionWindow {
+  Q_OBJECT
+
  public:
   /// @param dialog  the question; holds the answer once the window is closed
   frmBDialog(YesNoDialog& dialog, HelpViewer& help, QWidget* parent = nullptr);

@@ -6,7 +6,10 @@
 #include <QPushButton>
 #include <QString>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/PictureBox.h"
 #include "platform/qt/PresetList.h"
 
@@ -59,7 +62,7 @@ void frmCDialog::MakeAnswer() {
 
 void frmCDialog::BindAnswer() {
   connect(txtValue_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    const std::string typed = text.toStdString();
+    const std::string typed = ValueOf(text);
     if (typed == dialog_.Value()) return;
     dialog_.Type(typed);
     ListValues_->clearSelection();  // what is typed is not what was chosen
@@ -73,6 +76,14 @@ void frmCDialog::BindAnswer() {
           [this](QListWidgetItem* entry) { SelectEntry(ListValues_->row(entry)); });
   connect(ListValues_, &QListWidget::itemDoubleClicked, this, [this] { PressOk(); });
   connect(cmdOk_, &QPushButton::clicked, this, &frmCDialog::PressOk);
+}
+
+/// A name of the list is known by what the list shows for it.
+std::string frmCDialog::ValueOf(const QString& text) const {
+  const std::vector<std::string>& names = dialog_.List();
+  const auto named = std::find_if(names.begin(), names.end(),
+                                  [&text](const std::string& name) { return Translated(name) == text; });
+  return named == names.end() ? text.toStdString() : *named;
 }
 
 void frmCDialog::SelectEntry(int row) {
@@ -99,7 +110,9 @@ void frmCDialog::Answered() {
 }
 
 void frmCDialog::ShowAnswer() {
-  txtValue_->setText(QString::fromStdString(dialog_.Value()));
+  const std::vector<std::string>& names = dialog_.List();
+  const bool isName = std::find(names.begin(), names.end(), dialog_.Value()) != names.end();
+  txtValue_->setText(isName ? Translated(dialog_.Value()) : QString::fromStdString(dialog_.Value()));
   PicDisplay_->ShowPicture(dialog_.PictureKey());
 }
 

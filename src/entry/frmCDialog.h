@@ -12,6 +12,8 @@ class PresetList;
 
 /// The window of a ValueDialog: asks for one value, by an equation or from a list.
 class frmCDialog final : public QuestionWindow {
+  Q_OBJECT
+
  public:
   /// @param dialog  the question; holds the answer once the window is closed
   frmCDialog(ValueDialog& dialog, HelpViewer& help, QWidget* parent = nullptr);
@@ -25,6 +27,7 @@ class frmCDialog final : public QuestionWindow {
  private:
   void MakeAnswer();
   void BindAnswer();
+  [[nodiscard]] std::string ValueOf(const QString& text) const;
   void SelectEntry(int row);
   void PressOk();
   void PressEnter();

@@ -11,6 +11,7 @@
 
 #include "platform/qt/DrawingSurface.h"
 #include "platform/qt/HintLine.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/MeasureGrid.h"
 #include "platform/qt/QtText.h"
@@ -94,7 +95,7 @@ QGroupBox* frmBandCalc::MakeMachine() {
   auto* grid = new MeasureGrid(frame);
   grids_.push_back(grid);
   for (const MachineBox& box : MachineBoxes()) {
-    const QString caption = ToQt(box.Caption);
+    const QString caption = Translated(box.Caption);
     MeasureBox* shown =
         grid->AddBox(ToQt(box.Control), caption, Spoken(caption), MeasureGrid::Press::BoxAndCaption);
     SetTopic(shown, RowOf(box.Asked).HelpTopic);
@@ -135,7 +136,7 @@ void frmBandCalc::AlignBoxes() {
 
 /// Together they are a choice of one; which of them is ticked the calculator says.
 QCheckBox* frmBandCalc::MakeCheck(int row) {
-  const QString caption = ToQt(LengthCaptions[row]);
+  const QString caption = Translated(LengthCaptions[row]);
   auto* check = new QCheckBox(caption);
   check->setObjectName(ArrayName("chkLength", row));
   check->setAccessibleName(tr("Take %1").arg(Spoken(caption)));
@@ -150,7 +151,7 @@ QCheckBox* frmBandCalc::MakeCheck(int row) {
 MeasureBox* frmBandCalc::MakeLength(int row) {
   auto* box = new MeasureBox;
   box->setObjectName(ArrayName("txtLength", row));
-  box->setAccessibleName(Spoken(ToQt(LengthCaptions[row])));
+  box->setAccessibleName(Spoken(Translated(LengthCaptions[row])));
   box->SetOpens(row == OwnLength);
   if (row == OwnLength) {
     SetTopic(box, RowOf(Parameter::BandLength).HelpTopic);
@@ -166,7 +167,8 @@ MeasureBox* frmBandCalc::MakeLength(int row) {
 }
 
 QVBoxLayout* frmBandCalc::MakeFoot() {
-  lblStatus_ = new HintLine([](const QString& control) { return ToQt(BandCalcHint(control.toStdString())); });
+  lblStatus_ =
+      new HintLine([](const QString& control) { return Translated(BandCalcHint(control.toStdString())); });
   lblStatus_->setObjectName("lblStatus");
   auto* foot = new QVBoxLayout;
   foot->setSpacing(Gap);

@@ -20,6 +20,8 @@ class MeasureBox;
 
 /// The window of a BandCalculator.
 class frmBandCalc final : public FormWindow {
+  Q_OBJECT
+
  public:
   /// @param calculator  has its design; says once the window is closed whether it was accepted
   frmBandCalc(BandCalculator& calculator, HelpViewer& help, QWidget* parent = nullptr);

@@ -11,7 +11,7 @@
 
 #include "machine/modGaugeDraw.h"
 #include "platform/qt/DrawingSurface.h"
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 
 namespace tarnwick {
 namespace {
@@ -36,7 +36,7 @@ QString SpokenTable(const DisplayFormat& format) {
   QStringList lines;
   for (const GaugeRow& row : GaugeTable(format)) {
     QStringList line;
-    for (const std::string& text : row) line.append(ToQt(text).trimmed());
+    for (const std::string& text : row) line.append(Translated(text).trimmed());
     lines.append(line.join(", "));
   }
   return lines.join('\n');
@@ -74,7 +74,7 @@ void frmGauge::MakeTable() {
 void frmGauge::FitFont() {
   const QFontMetricsF metrics(picGauge_->font());
   unit_ = GaugeUnit(format_, [&metrics](std::string_view text) {
-    return PixelSize{metrics.horizontalAdvance(ToQt(text)), metrics.height()};
+    return PixelSize{metrics.horizontalAdvance(Translated(text)), metrics.height()};
   });
   const auto [width, height] = GaugeSize(unit_);
   picGauge_->setFixedSize(qCeil(width), qCeil(height));

@@ -9,6 +9,8 @@ class DrawingSurface;
 
 /// The table of sheet gauges, to be looked at.
 class frmGauge final : public FormWindow {
+  Q_OBJECT
+
  public:
   frmGauge(const DisplayFormat& format, HelpViewer& help, QWidget* parent = nullptr);
 

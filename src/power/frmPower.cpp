@@ -12,8 +12,8 @@
 #include <utility>
 
 #include "platform/qt/FeedIndexList.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/MeasureGrid.h"
-#include "platform/qt/QtText.h"
 #include "shell/modString.h"
 
 namespace tarnwick {
@@ -106,7 +106,7 @@ QGroupBox* frmPower::MakeEstimates(std::function<void()> print) {
   cboPercent_ = new QComboBox;
   cboPercent_->setObjectName("cboPercent");
   cboPercent_->setAccessibleName(tr("Increase Feed Rate"));
-  for (const std::string& entry : PowerEditor::PercentEntries()) cboPercent_->addItem(ToQt(entry));
+  for (const std::string& entry : PowerEditor::PercentEntries()) cboPercent_->addItem(Translated(entry));
   cboPercent_->setEditable(true);
   cboPercent_->setInsertPolicy(QComboBox::NoInsert);
   cboPercent_->setCompleter(nullptr);  // "1" is not to become "10 Percent"
@@ -156,8 +156,8 @@ QHBoxLayout* frmPower::MakeFoot() {
   foot->setSpacing(Gap);
   foot->addStretch();
   for (const auto& [button, hint] : {std::pair{cmdOk, OkHint}, std::pair{cmdCancel, CancelHint}}) {
-    button->setAccessibleDescription(ToQt(NumberedText(hint)));
-    button->setToolTip(ToQt(NumberedText(hint)));
+    button->setAccessibleDescription(Translated(NumberedText(hint)));
+    button->setToolTip(Translated(NumberedText(hint)));
     foot->addWidget(button);
   }
   return foot;
@@ -188,7 +188,7 @@ void frmPower::LeavePercent() {
 void frmPower::ShowState() {
   boxes_.ShowTexts([this](PowerBox box) -> const std::string& { return editor_.Text(box); });
   cboFeedIndex_->ShowEntry(editor_.FeedIndexEntry());
-  const QString percent = ToQt(editor_.PercentText());
+  const QString percent = Translated(editor_.PercentText());
   if (cboPercent_->currentText() != percent) cboPercent_->setEditText(percent);
 }
 

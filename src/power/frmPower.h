@@ -17,6 +17,8 @@ class FeedIndexList;
 
 /// The window of a PowerEditor.
 class frmPower final : public FormWindow {
+  Q_OBJECT
+
  public:
   /// @param editor  has its design; says once the window is closed whether it was accepted
   /// @param print  what cmdPrint does

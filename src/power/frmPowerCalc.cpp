@@ -10,8 +10,8 @@
 #include <utility>
 
 #include "platform/qt/FeedIndexList.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/MeasureGrid.h"
-#include "platform/qt/QtText.h"
 
 namespace tarnwick {
 namespace {
@@ -96,7 +96,7 @@ QGroupBox* frmPowerCalc::MakeFeedIndex() {
   auto* label = new QLabel(caption);
   label->setObjectName("lblFeedIndex");
   label->setTextFormat(Qt::PlainText);
-  cboFeedIndex_ = new FeedIndexList(caption.chopped(1));
+  cboFeedIndex_ = new FeedIndexList(QString(caption).remove(':'));
   label->setBuddy(cboFeedIndex_);
   connect(cboFeedIndex_, &FeedIndexList::activated, this, [this](int entry) {
     calculator_.SelectFeedIndex(static_cast<std::size_t>(entry));
@@ -161,7 +161,7 @@ void frmPowerCalc::keyPressEvent(QKeyEvent* event) {
 
 void frmPowerCalc::ShowState() {
   // "[*]" is a mark of the toolkit's unless it stands twice.
-  setWindowTitle(ToQt(calculator_.Caption()).replace("[*]", "[*][*]"));
+  setWindowTitle(Translated(calculator_.Caption()).replace("[*]", "[*][*]"));
   for (std::size_t side = 0; side < Sides; ++side) {
     boxes_[side].ShowTexts(
         [this, side](PowerBox box) -> const std::string& { return calculator_.Text(box, side); });

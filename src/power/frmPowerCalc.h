@@ -17,6 +17,8 @@ class FeedIndexList;
 
 /// The window of a PowerCalculator.
 class frmPowerCalc final : public FormWindow {
+  Q_OBJECT
+
  public:
   /// @param print  what cmdPrint does
   frmPowerCalc(PowerCalculator& calculator, HelpViewer& help, std::function<void()> print,

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 
 namespace tarnwick {
 namespace {
@@ -129,7 +129,7 @@ class LineRoom final : public QScrollArea {
 
 /// A line for those who listen, to whom an asterisk says nothing.
 QString SpokenLine(const PowerLine& line) {
-  const QString spoken = (ToQt(line.Label) + ' ' + ToQt(line.Text)).simplified();
+  const QString spoken = (Translated(line.Label) + ' ' + Translated(line.Text)).simplified();
   return line.Changed ? frmPowerEst::tr("%1, changed").arg(spoken) : spoken;
 }
 
@@ -139,7 +139,7 @@ frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, std::fu
                          QWidget* parent)
     : FormWindow("frmPowerEst", tr("Power Estimates"), Topic, help, parent), estimates_(estimates) {
   const auto caption = [](const char* name, std::string_view text) {
-    auto* label = new QLabel(ToQt(text));
+    auto* label = new QLabel(Translated(text));
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     return label;
@@ -173,7 +173,7 @@ void frmPowerEst::DisplayPowerSets() {
   picPowerEst_->clear();
   for (const PowerLine& line : estimates_.Lines()) {
     // The wood has no blank ahead as the numbers have: in their column all begin alike.
-    const QString label = ToQt(line.Label), text = ToQt(line.MarkedText()).trimmed();
+    const QString label = Translated(line.Label), text = Translated(line.MarkedText()).trimmed();
     auto* shown = new QListWidgetItem((label + ' ' + text).trimmed(), picPowerEst_);
     shown->setData(LabelRole, label);
     shown->setData(TextRole, text);

@@ -12,6 +12,8 @@ namespace tarnwick {
 
 /// The window of a PowerEstimateList: its lines, read by eye, by keys or by ear.
 class frmPowerEst final : public FormWindow {
+  Q_OBJECT
+
  public:
   /// @param print  what cmdPrint does
   frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, std::function<void()> print,

@@ -10,6 +10,8 @@ namespace tarnwick {
 /// The notice that a job runs, in the middle of the screen. It has no button, and whoever showed it takes it
 /// away: no key closes it.
 class frmPrintMsg final : public QDialog {
+  Q_OBJECT
+
  public:
   explicit frmPrintMsg(QWidget* parent = nullptr);
 

@@ -13,6 +13,8 @@ namespace tarnwick {
 /// What the two windows of a PrinterChoice have in common: the printer, whether it is to be the default one,
 /// OK and Cancel.
 class PrinterForm : public FormWindow {
+  Q_OBJECT
+
  public:
   void reject() override;
 
@@ -41,6 +43,8 @@ class PrinterForm : public FormWindow {
 
 /// The window of a PrinterChoice where there are no pages to choose.
 class frmPrinter final : public PrinterForm {
+  Q_OBJECT
+
  public:
   frmPrinter(PrinterChoice& choice, HelpViewer& help, QWidget* parent = nullptr);
 };

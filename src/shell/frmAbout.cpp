@@ -9,7 +9,7 @@
 
 #include "platform/qt/BandPicture.h"
 #include "platform/qt/CenterForm.h"
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 #include "shell/modAbout.h"
 
 namespace tarnwick {
@@ -27,7 +27,7 @@ frmAbout::frmAbout(HelpViewer& help, QWidget* parent) : QDialog(parent) {
 
   auto* picture = new BandPicture(this);
   picture->setObjectName("PicAbout");
-  auto* lblAbout = new QLabel(ToQt(AboutText()), this);
+  auto* lblAbout = new QLabel(Translated(AboutText()), this);
   lblAbout->setObjectName("lblAbout");
   lblAbout->setTextFormat(Qt::PlainText);
   lblAbout->setAccessibleName(lblAbout->text().simplified());

@@ -8,6 +8,8 @@ namespace tarnwick {
 
 /// The box about the program.
 class frmAbout final : public QDialog {
+  Q_OBJECT
+
  public:
   explicit frmAbout(HelpViewer& help, QWidget* parent = nullptr);
 };

@@ -10,6 +10,8 @@ namespace tarnwick {
 
 /// A band running over its wheels, in the middle of another widget, while a file is read or written.
 class frmAnime final : public QWidget {
+  Q_OBJECT
+
  public:
   /// @param place  where it plays: a widget in a window; it does not repaint meanwhile, unless it gets
   /// another

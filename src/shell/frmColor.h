@@ -13,6 +13,8 @@ namespace tarnwick {
 
 /// The window of a DxfColorChoice: ten samples with their numbers, of which one is marked.
 class frmColor final : public QDialog {
+  Q_OBJECT
+
  public:
   /// @param choice  holds the answer once the window is closed
   frmColor(DxfColorChoice& choice, HelpViewer& help, QWidget* parent = nullptr);

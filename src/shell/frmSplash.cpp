@@ -11,6 +11,7 @@
 
 #include "platform/qt/BandPicture.h"
 #include "platform/qt/CenterForm.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/QtText.h"
 #include "shell/modAbout.h"
 #include "version.h"
@@ -38,7 +39,7 @@ frmSplash::frmSplash(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::Framele
   column->setSizeConstraint(QLayout::SetFixedSize);
   AddLine("lblName", ProgramName, NameSize, PictureInk);
   AddLine("lblVersion", tr("Version %1").arg(ToQt(ProgramVersion)), PlainSize, PictureInk);
-  AddLine("lblMaker", ToQt(MakerLine()), PlainSize, PictureQuietInk);
+  AddLine("lblMaker", Translated(MakerLine()), PlainSize, PictureQuietInk);
   column->addSpacing(Top - Gap);
   auto* picture = new BandPicture(this);
   picture->setObjectName("PicSplash");

@@ -6,6 +6,8 @@ namespace tarnwick {
 
 /// The program's own picture with its name and version, to be looked at until a click or a key.
 class frmSplash final : public QDialog {
+  Q_OBJECT
+
  public:
   explicit frmSplash(QWidget* parent = nullptr);
 

@@ -12,8 +12,8 @@
 #include <cmath>
 
 #include "platform/qt/DownwardBar.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/PanelWidth.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/RowList.h"
 #include "shell/modString.h"
 #include "window/modRowScroll.h"
@@ -86,10 +86,10 @@ void fraMain::MakeRows() {
   vscSawInfo_ = new DownwardBar(picSawInfo_);
   vscSawInfo_->setObjectName("vscSawInfo");
   vscSawInfo_->setAccessibleName(tr("Move the values"));
-  wayBack_ = new QPushButton(ToQt(NumberedText(QuickOnText)), PicSlide_);
+  wayBack_ = new QPushButton(Translated(NumberedText(QuickOnText)), PicSlide_);
   wayBack_->setObjectName("cmdQuickClick");
   wayBack_->setAccessibleName(wayBack_->text());
-  wayBack_->setAccessibleDescription(ToQt(NumberedText(QuickOnHint)));
+  wayBack_->setAccessibleDescription(Translated(NumberedText(QuickOnHint)));
   wayBack_->setFlat(true);
   QFont underlined = wayBack_->font();
   underlined.setUnderline(true);  // on plain paper it must show that it can be pressed

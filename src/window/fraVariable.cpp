@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include "platform/qt/Caption.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/QtText.h"
@@ -86,7 +87,7 @@ fraVariable::~fraVariable() { EndWatching(); }
 void fraVariable::Name(QWidget* control, const QString& name, const QString& spoken) {
   control->setObjectName(name);
   control->setAccessibleName(spoken);
-  control->setAccessibleDescription(ToQt(SegmentHint(name.toStdString())));
+  control->setAccessibleDescription(Translated(SegmentHint(name.toStdString())));
   Watch(control);
 }
 
@@ -133,7 +134,7 @@ QWidget* fraVariable::MakePatterns() {
   grid->setHorizontalSpacing(ColumnGap);
   grid->setVerticalSpacing(RowGap);
   for (int index = 0; index < Patterns; ++index) {
-    const QString caption = ToQt(PatternName(index));
+    const QString caption = Translated(PatternName(index));
     auto* option = new QRadioButton(caption, patterns);
     Name(option, Indexed("optPattern", index), tr("Pattern %1").arg(Spoken(caption)));
     connect(option, &QRadioButton::clicked, this, [this, index] { emit PatternClicked(index); });
@@ -232,7 +233,7 @@ void fraVariable::SetWidth(int panel, int more) {
 
 void fraVariable::ShowEntries(const VariableValues& values) {
   QStringList entries;
-  for (const std::string& entry : values.Entries) entries.append(ToQt(entry));
+  for (const std::string& entry : values.Entries) entries.append(Translated(entry));
   QStringList shown;
   for (int entry = 0; entry < cboPattern_->count(); ++entry) shown.append(cboPattern_->itemText(entry));
   const QSignalBlocker quiet(cboPattern_);
@@ -277,12 +278,13 @@ void fraVariable::Show(const VariableValues& values, const DisplayFormat& format
 
 void fraVariable::TellOwner(const QObject& box) {
   const std::string name = box.objectName().toStdString();
-  if (const auto text = SegmentMustUse(name); !text.empty()) emit Hovered(ToQt(text), SegmentTopic(name));
+  if (const auto text = SegmentMustUse(name); !text.empty())
+    emit Hovered(Translated(text), SegmentTopic(name));
 }
 
 void fraVariable::TellHover(const QObject* control, bool isOver) {
   const std::string name = isOver ? control->objectName().toStdString() : std::string();
-  emit Hovered(ToQt(SegmentHint(name)), SegmentTopic(name));
+  emit Hovered(Translated(SegmentHint(name)), SegmentTopic(name));
 }
 
 }  // namespace tarnwick

@@ -14,7 +14,7 @@
 #include <QWindow>
 #include <chrono>
 
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 #include "shell/frmAnime.h"
 #include "shell/modString.h"
 #include "shell/modTimeDate.h"
@@ -114,7 +114,7 @@ QWidget* frmMain::MakeUnits() {
     auto* option = new QRadioButton(caption, units);
     option->setObjectName(name);
     option->setAccessibleName(QString(caption).remove('&'));
-    option->setAccessibleDescription(ToQt(NumberedText(hint)));
+    option->setAccessibleDescription(Translated(NumberedText(hint)));
     option->installEventFilter(this);
     row->addWidget(option);
     return option;
@@ -149,10 +149,10 @@ QWidget* frmMain::MakeHintStrip() {
 }
 
 /// A panel of the status bar: a text that is read, by eye or by ear, and never has the focus.
-QLineEdit* frmMain::AddPanel(const char* name, const char* caption, const char* widest) {
+QLineEdit* frmMain::AddPanel(const char* name, const QString& caption, const char* widest) {
   auto* panel = new QLineEdit(this);
   panel->setObjectName(name);
-  panel->setAccessibleName(tr(caption));
+  panel->setAccessibleName(caption);
   panel->setReadOnly(true);
   panel->setFrame(false);
   panel->setFocusPolicy(Qt::NoFocus);
@@ -167,8 +167,8 @@ QLineEdit* frmMain::AddPanel(const char* name, const char* caption, const char* 
 }
 
 void frmMain::MakeStatusBar() {
-  txtScale_ = AddPanel("txtScale", "Scale", "300.000000");
-  panTimeDate_ = AddPanel("panTimeDate", "Time and date", "00:00 pm  Mmm 00, 0000");
+  txtScale_ = AddPanel("txtScale", tr("Scale"), "300.000000");
+  panTimeDate_ = AddPanel("panTimeDate", tr("Time and date"), "00:00 pm  Mmm 00, 0000");
   panTimeDate_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* caption = new QLabel(tr("Scale"), this);
   caption->setContentsMargins(caption->fontMetrics().averageCharWidth(), 0, 0, 0);
@@ -222,7 +222,7 @@ void frmMain::BindVariable() {
           [this] { Run("cmdVariablePrint", [this] { hosts_.Printing.PrintVariableSegment(); }); });
   connect(fraVariable_, &fraVariable::Hovered, this, [this](const QString& hint, int topic) {
     helpTopic_ = topic;
-    ShowStatus(hint.toStdString(), "");
+    Say(hint);
   });
 }
 

@@ -37,6 +37,8 @@ class ToolBar;
 /// The main window: the band, the panel of the design beside it, the commands, the lines that say what is
 /// what.
 class frmMain final : public QMainWindow, private MainView, private DocumentView {
+  Q_OBJECT
+
  public:
   /// @param program  started; it outlives the window, as what `hosts` names does
   frmMain(Program& program, const WindowHosts& hosts);
@@ -56,7 +58,7 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
   QWidget* MakeUnits();
   QWidget* MakeHintStrip();
   void MakeStatusBar();
-  QLineEdit* AddPanel(const char* name, const char* caption, const char* widest);
+  QLineEdit* AddPanel(const char* name, const QString& caption, const char* widest);
   void BindPanels();
   void BindEditor(FieldPanel& panel, void (Editors::*ok)(), void (Editors::*cancel)());
   void BindVariable();
@@ -70,14 +72,14 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
   void MakeToolsMenu();
   void MakeHelpMenu();
   void MakeToolBar();
-  QMenu* AddMenu(const char* name, const char* caption);
-  QMenu* AddSubmenu(QMenu* menu, const char* name, const char* caption);
+  QMenu* AddMenu(const char* name, const QString& caption);
+  QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption);
   void ShowHintsOf(QMenu* menu);
-  QAction* AddItem(QMenu* menu, const char* name, const char* caption, const char* key,
+  QAction* AddItem(QMenu* menu, const char* name, const QString& caption, const char* key,
                    std::function<void()> command);
   QAction* AddSeparator(QMenu* menu, const char* name);
   /// An item of the View menu: what it does answers whether to redraw.
-  void AddViewItem(QMenu* menu, const char* name, const char* caption, const char* key,
+  void AddViewItem(QMenu* menu, const char* name, const QString& caption, const char* key,
                    std::function<bool()> command);
   void AddDirections(QMenu* view);
   void AddRecentItem();
@@ -98,6 +100,7 @@ class frmMain final : public QMainWindow, private MainView, private DocumentView
   void ShowUnits() override;
   void DrawSaw() override;
   void ShowStatus(std::string_view status, std::string_view hint) override;
+  void Say(const QString& status, const QString& hint = {});
 
   // ---- what the document commands ask of the window
   void ShowCaption() override;

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "machine/MachineCommands.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/ToolBar.h"
 #include "power/PowerCommands.h"
 #include "shell/frmAbout.h"
@@ -21,15 +20,15 @@ namespace tarnwick {
 
 // ---- pieces of a menu
 
-QMenu* frmMain::AddMenu(const char* name, const char* caption) {
-  QMenu* menu = menuBar()->addMenu(tr(caption));
+QMenu* frmMain::AddMenu(const char* name, const QString& caption) {
+  QMenu* menu = menuBar()->addMenu(caption);
   menu->setObjectName(name);
   ShowHintsOf(menu);
   return menu;
 }
 
-QMenu* frmMain::AddSubmenu(QMenu* menu, const char* name, const char* caption) {
-  QMenu* submenu = menu->addMenu(tr(caption));
+QMenu* frmMain::AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
+  QMenu* submenu = menu->addMenu(caption);
   submenu->setObjectName(name);
   ShowHintsOf(submenu);
   return submenu;
@@ -43,9 +42,9 @@ void frmMain::ShowHintsOf(QMenu* menu) {
   connect(menu, &QMenu::aboutToHide, this, [this] { ShowStatus("", ""); });
 }
 
-QAction* frmMain::AddItem(QMenu* menu, const char* name, const char* caption, const char* key,
+QAction* frmMain::AddItem(QMenu* menu, const char* name, const QString& caption, const char* key,
                           std::function<void()> command) {
-  QAction* item = menu->addAction(tr(caption));
+  QAction* item = menu->addAction(caption);
   item->setObjectName(name);
   item->setShortcut(QKeySequence(key));
   item->setMenuRole(QAction::NoRole);
@@ -64,7 +63,7 @@ QAction* frmMain::AddSeparator(QMenu* menu, const char* name) {
   return separator;
 }
 
-void frmMain::AddViewItem(QMenu* menu, const char* name, const char* caption, const char* key,
+void frmMain::AddViewItem(QMenu* menu, const char* name, const QString& caption, const char* key,
                           std::function<bool()> command) {
   AddItem(menu, name, caption, key, [this, command = std::move(command)] { ShowView(command()); });
 }
@@ -83,23 +82,26 @@ void frmMain::MakeMenu() {
 
 void frmMain::MakeFileMenu() {
   PrintCommands& printing = hosts_.Printing;
-  QMenu* file = mnuFile_ = AddMenu("mnuFile", "&File");
-  AddItem(file, "mnuItemNew", "&New", "", [this] { documents_.New(); });
-  AddItem(file, "mnuItemStepByStep", "Ne&w Step by Step", "", [this] { documents_.NewStepByStep(); });
-  AddItem(file, "mnuItemOpen", "&Open", "", [this] { documents_.Open(); });
-  AddItem(file, "mnuItemSave", "&Save", "", [this] { documents_.Save(); });
-  AddItem(file, "mnuItemSaveAs", "Save &As", "", [this] { documents_.SaveAs(); });
+  QMenu* file = mnuFile_ = AddMenu("mnuFile", tr("&File"));
+  AddItem(file, "mnuItemNew", tr("&New"), "", [this] { documents_.New(); });
+  AddItem(file, "mnuItemStepByStep", tr("Ne&w Step by Step"), "", [this] { documents_.NewStepByStep(); });
+  AddItem(file, "mnuItemOpen", tr("&Open"), "", [this] { documents_.Open(); });
+  AddItem(file, "mnuItemSave", tr("&Save"), "", [this] { documents_.Save(); });
+  AddItem(file, "mnuItemSaveAs", tr("Save &As"), "", [this] { documents_.SaveAs(); });
   AddSeparator(file, "mnuItemFileSep4");
-  QMenu* exports = AddSubmenu(file, "mnuItemExport", "Export");
-  AddItem(exports, "mnuItemExportDxf", "Drawing to a Dxf File", "", [this] { documents_.ExportDxf(); });
-  AddItem(exports, "mnuItemSaveText", "Information to a Text File", "", [this] { documents_.SaveText(); });
-  AddItem(exports, "mnuItemExportPdf", "Print Outs to a Pdf File", "", [&printing] { printing.ExportPdf(); });
+  QMenu* exports = AddSubmenu(file, "mnuItemExport", tr("Export"));
+  AddItem(exports, "mnuItemExportDxf", tr("Drawing to a Dxf File"), "", [this] { documents_.ExportDxf(); });
+  AddItem(exports, "mnuItemSaveText", tr("Information to a Text File"), "",
+          [this] { documents_.SaveText(); });
+  AddItem(exports, "mnuItemExportPdf", tr("Print Outs to a Pdf File"), "",
+          [&printing] { printing.ExportPdf(); });
   AddSeparator(file, "mnuItemFileSep1");
-  AddItem(file, "mnuItemPrint", "&Print", "", [&printing] { printing.PrintSaw(); });
-  QMenu* prints = AddSubmenu(file, "mnuItemPrintOnly", "P&rint Outs");
-  AddItem(prints, "mnuItemPrintInfo", "&Information Sheet", "", [&printing] { printing.PrintInfoOnly(); });
-  AddItem(prints, "mnuItemPrintShape", "&Toothshape", "", [&printing] { printing.PrintShapeOnly(); });
-  AddItem(prints, "mnuItemPrintVariable", "&Variable Pitch Segment", "",
+  AddItem(file, "mnuItemPrint", tr("&Print"), "", [&printing] { printing.PrintSaw(); });
+  QMenu* prints = AddSubmenu(file, "mnuItemPrintOnly", tr("P&rint Outs"));
+  AddItem(prints, "mnuItemPrintInfo", tr("&Information Sheet"), "",
+          [&printing] { printing.PrintInfoOnly(); });
+  AddItem(prints, "mnuItemPrintShape", tr("&Toothshape"), "", [&printing] { printing.PrintShapeOnly(); });
+  AddItem(prints, "mnuItemPrintVariable", tr("&Variable Pitch Segment"), "",
           [&printing] { printing.PrintVariableSegment(); });
   AddSeparator(file, "mnuSepFile2")->setVisible(false);
   mnuRecentFiles_ = {AddSeparator(file, "mnuRecentFiles(0)")};
@@ -121,21 +123,23 @@ void frmMain::AddRecentItem() {
 }
 
 void frmMain::MakeViewMenu() {
-  QMenu* view = AddMenu("mnuView", "&View");
+  QMenu* view = AddMenu("mnuView", tr("&View"));
   OpenDesign& d = design_;
-  AddViewItem(view, "mnuItemAll", "View All", "Ctrl+A", [&d] { return d.ViewAll(); });
-  AddViewItem(view, "mnuItemFullScale", "View Full Scale 1/1", "Ctrl+F", [&d] { return d.ViewOneToOne(); });
-  AddViewItem(view, "mnuItemVarSegment", "View Variable Segment", "Ctrl+S", [&d] { return d.ViewSegment(); });
-  AddViewItem(view, "mnuItemLast", "Last View", "Ctrl+L", [&d] { return d.View.ShowLastView(); });
-  AddViewItem(view, "mnuItemIn", "Zoom In", "Ctrl+I", [&d] { return d.View.ZoomIn(); });
-  AddViewItem(view, "mnuItemOut", "Zoom Out", "Ctrl+O", [&d] { return d.View.ZoomOut(); });
+  AddViewItem(view, "mnuItemAll", tr("View All"), "Ctrl+A", [&d] { return d.ViewAll(); });
+  AddViewItem(view, "mnuItemFullScale", tr("View Full Scale 1/1"), "Ctrl+F",
+              [&d] { return d.ViewOneToOne(); });
+  AddViewItem(view, "mnuItemVarSegment", tr("View Variable Segment"), "Ctrl+S",
+              [&d] { return d.ViewSegment(); });
+  AddViewItem(view, "mnuItemLast", tr("Last View"), "Ctrl+L", [&d] { return d.View.ShowLastView(); });
+  AddViewItem(view, "mnuItemIn", tr("Zoom In"), "Ctrl+I", [&d] { return d.View.ZoomIn(); });
+  AddViewItem(view, "mnuItemOut", tr("Zoom Out"), "Ctrl+O", [&d] { return d.View.ZoomOut(); });
   AddSeparator(view, "mnuItemViewSep1");
   AddDirections(view);
 }
 
 void frmMain::AddDirections(QMenu* view) {
-  QMenu* directions = AddSubmenu(view, "mnuItemTeethDirection", "Direction of Teeth");
-  const auto add = [&](const char* name, const char* caption, std::int16_t direction) {
+  QMenu* directions = AddSubmenu(view, "mnuItemTeethDirection", tr("Direction of Teeth"));
+  const auto add = [&](const char* name, const QString& caption, std::int16_t direction) {
     QAction* item = AddItem(directions, name, caption, "",
                             [this, direction] { documents_.SetTeethDirection(direction); });
     item->setCheckable(true);
@@ -143,17 +147,17 @@ void frmMain::AddDirections(QMenu* view) {
     connect(item, &QAction::triggered, this, [this] { ShowTeethDirection(); });
     return item;
   };
-  mnuItemLeftRight_ = add("mnuItemLeftRight", "Left to Right", LeftToRight);
-  mnuItemRightLeft_ = add("mnuItemRightLeft", "Right to Left", RightToLeft);
+  mnuItemLeftRight_ = add("mnuItemLeftRight", tr("Left to Right"), LeftToRight);
+  mnuItemRightLeft_ = add("mnuItemRightLeft", tr("Right to Left"), RightToLeft);
 }
 
 void frmMain::MakeDesignMenu() {
-  QMenu* design = AddMenu("mnuDesign", "&Design");
-  AddItem(design, "mnuItemMain", "Main Screen", "", [this] { editors_.OpenMain(); });
-  AddItem(design, "mnuItemGeneral", "General Information", "", [this] { editors_.OpenGeneral(); });
-  AddItem(design, "mnuItemToothShape", "Tooth Shape Editor", "", [this] { editors_.OpenToothShape(); });
-  AddItem(design, "mnuItemVariable", "Variable Pitch", "", [this] { variable_.OpenVariable(); });
-  AddItem(design, "mnuItemPower", "Power Requirements", "", [this] { OpenPowerEditor(ForPower()); });
+  QMenu* design = AddMenu("mnuDesign", tr("&Design"));
+  AddItem(design, "mnuItemMain", tr("Main Screen"), "", [this] { editors_.OpenMain(); });
+  AddItem(design, "mnuItemGeneral", tr("General Information"), "", [this] { editors_.OpenGeneral(); });
+  AddItem(design, "mnuItemToothShape", tr("Tooth Shape Editor"), "", [this] { editors_.OpenToothShape(); });
+  AddItem(design, "mnuItemVariable", tr("Variable Pitch"), "", [this] { variable_.OpenVariable(); });
+  AddItem(design, "mnuItemPower", tr("Power Requirements"), "", [this] { OpenPowerEditor(ForPower()); });
 }
 
 PowerDesk frmMain::ForPower() { return {program_, hosts_.Dialogs, hosts_.Power, *this}; }
@@ -161,31 +165,31 @@ PowerDesk frmMain::ForPower() { return {program_, hosts_.Dialogs, hosts_.Power, 
 MachineDesk frmMain::ForMachine() { return {program_, hosts_.Dialogs, hosts_.Machine, *this}; }
 
 void frmMain::MakeTablesMenu() {
-  QMenu* tables = AddMenu("mnuTables", "Ta&bles");
-  AddItem(tables, "mnuItemPlateGauge", "Plate Gauge", "", [this] { OpenPlateGauges(ForMachine()); });
+  QMenu* tables = AddMenu("mnuTables", tr("Ta&bles"));
+  AddItem(tables, "mnuItemPlateGauge", tr("Plate Gauge"), "", [this] { OpenPlateGauges(ForMachine()); });
 }
 
 void frmMain::MakeToolsMenu() {
-  QMenu* tools = AddMenu("mnuTools", "&Tools");
-  AddItem(tools, "mnuItemBandLength", "Band Length Calculator", "",
+  QMenu* tools = AddMenu("mnuTools", tr("&Tools"));
+  AddItem(tools, "mnuItemBandLength", tr("Band Length Calculator"), "",
           [this] { OpenBandCalculator(ForMachine()); });
-  AddItem(tools, "mnuItemPowerCalc", "Power Calculator", "", [this] { OpenPowerCalculator(ForPower()); });
-  QAction* calculator = AddItem(tools, "mnuItemCalculator", "Calculator", "", [] {});  // never shown
+  AddItem(tools, "mnuItemPowerCalc", tr("Power Calculator"), "", [this] { OpenPowerCalculator(ForPower()); });
+  QAction* calculator = AddItem(tools, "mnuItemCalculator", tr("Calculator"), "", [] {});  // never shown
   calculator->setVisible(false);
   calculator->setEnabled(false);
   AddSeparator(tools, "mnuItemToolsSep1");
-  AddItem(tools, "mnuItemOptions", "&Options", "", [this] { ShowOptions(); });
+  AddItem(tools, "mnuItemOptions", tr("&Options"), "", [this] { ShowOptions(); });
 }
 
 void frmMain::MakeHelpMenu() {
   HelpViewer& manual = program_.Out.Help;
-  QMenu* help = AddMenu("mnuHelp", "&Help");
-  AddItem(help, "mnuItemContents", "&Contents", "", [&manual] { manual.ShowContents(); });
-  AddItem(help, "mnuItemSearch", "&Search For Help On...", "", [&manual] { manual.ShowSearch(); });
-  AddItem(help, "mnuItemTech", "Obtain Technical Help...", "", [&manual] { manual.ShowSupport(); });
-  AddItem(help, "mnuItemSplash", "Splash", "", [this] { frmSplash(this).exec(); });
+  QMenu* help = AddMenu("mnuHelp", tr("&Help"));
+  AddItem(help, "mnuItemContents", tr("&Contents"), "", [&manual] { manual.ShowContents(); });
+  AddItem(help, "mnuItemSearch", tr("&Search For Help On..."), "", [&manual] { manual.ShowSearch(); });
+  AddItem(help, "mnuItemTech", tr("Obtain Technical Help..."), "", [&manual] { manual.ShowSupport(); });
+  AddItem(help, "mnuItemSplash", tr("Splash"), "", [this] { frmSplash(this).exec(); });
   AddSeparator(help, "mnuSepHelp1");
-  AddItem(help, "mnuItemAbout", "&About", "", [this] { frmAbout(program_.Out.Help, this).exec(); });
+  AddItem(help, "mnuItemAbout", tr("&About"), "", [this] { frmAbout(program_.Out.Help, this).exec(); });
 }
 
 // ---- tool bar
@@ -194,8 +198,7 @@ void frmMain::MakeToolBar() {
   toolBar_ = new ToolBar(*display_, this);
   toolBar_->AddCommandsOf(*this);
   addToolBar(toolBar_);
-  connect(toolBar_, &ToolBar::Pointed, this,
-          [this](const QString& hint) { ShowStatus(hint.toStdString(), ""); });
+  connect(toolBar_, &ToolBar::Pointed, this, [this](const QString& hint) { Say(hint); });
 }
 
 }  // namespace tarnwick

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/TabStep.h"
@@ -68,15 +69,19 @@ void frmMain::DrawSaw() {
   ShowView(true);
 }
 
-/// Only what differs is written: the mouse moves often, and the line would flicker.
 void frmMain::ShowStatus(std::string_view status, std::string_view hint) {
+  Say(Translated(status), Translated(hint));
+}
+
+/// Only what differs is written: the mouse moves often, and the line would flicker.
+void frmMain::Say(const QString& status, const QString& hint) {
   const auto show = [](QLabel& label, const QString& text) {
     if (label.text() == text) return;
     label.setText(text);
     label.setAccessibleDescription(text);  // a label with a name of its own keeps its text to itself
   };
-  show(*lblStatus_, ToQt(status));
-  show(*lblHint_, ToQt(hint));
+  show(*lblStatus_, status);
+  show(*lblHint_, hint);
 }
 
 // ---- hints and help
@@ -110,11 +115,10 @@ int frmMain::HelpTopic() const {
 /// The units explain themselves to the mouse, and to Tab as long as the focus stays.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   const auto* option = qobject_cast<QRadioButton*>(watched);
-  const std::string hint = option ? option->accessibleDescription().toStdString() : std::string();
-  if (event->type() == QEvent::Enter || (event->type() == QEvent::FocusIn && IsTabStep(*event)))
-    ShowStatus(hint, "");
+  const QString hint = option ? option->accessibleDescription() : QString();
+  if (event->type() == QEvent::Enter || (event->type() == QEvent::FocusIn && IsTabStep(*event))) Say(hint);
   const bool isLeft = event->type() == QEvent::Leave || event->type() == QEvent::FocusOut;
-  if (isLeft && lblStatus_->text() == ToQt(hint)) ShowStatus("", "");
+  if (isLeft && lblStatus_->text() == hint) ShowStatus("", "");
   return QMainWindow::eventFilter(watched, event);
 }
 

@@ -16,6 +16,8 @@ inline constexpr QColor PictureQuietInk(0xb8, 0xc2, 0xcc);
 
 /// The program's own picture: a piece of a band, from one side of its place to the other.
 class BandPicture final : public QWidget {
+  Q_OBJECT
+
  public:
   explicit BandPicture(QWidget* parent = nullptr);
   ~BandPicture() override;

@@ -9,6 +9,8 @@ namespace tarnwick {
 /// A sample of a colour that is pressed like a button. Its text, if any, stands on the colour; what the eye
 /// sees it tells people who listen in figures.
 class ColourSwatch final : public QAbstractButton {
+  Q_OBJECT
+
  public:
   explicit ColourSwatch(QWidget* parent = nullptr);
 

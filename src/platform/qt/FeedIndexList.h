@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 #include "power/modFeedIndex.h"
 
 namespace tarnwick {
@@ -16,7 +16,7 @@ class FeedIndexList final : public QComboBox {
   explicit FeedIndexList(const QString& spoken) {
     setObjectName("cboFeedIndex");
     setAccessibleName(spoken);
-    for (const std::string& entry : FeedIndexEntries()) addItem(ToQt(entry));
+    for (const std::string& entry : FeedIndexEntries()) addItem(Translated(entry));
   }
 
   /// nullopt: an index that is none of them.

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/QtText.h"
@@ -30,7 +31,13 @@ QString CaptionName(std::string_view control) { return "lbl" + ToQt(control.subs
 
 /// What is told of a box to people who listen; of a figure of another editor, which one that is.
 QString SpokenHint(const PanelField& field) {
-  return ToQt(field.Act == BoxAct::MustUse ? NumberedText(field.Text) : HintOfBox(field).Status);
+  return Translated(field.Act == BoxAct::MustUse ? NumberedText(field.Text) : HintOfBox(field).Status);
+}
+
+/// What somebody has typed is his own, whatever it says.
+QString Shown(const PanelField& field, const BandSaw& saw, const DisplayFormat& format) {
+  const std::string text = field.Shown(saw, format);
+  return field.Act == BoxAct::Type ? ToQt(text) : Translated(text);
 }
 
 bool OpensSomething(const PanelField& field) {
@@ -60,7 +67,7 @@ void FieldPanel::MakePage(std::span<const PanelField> fields) {
   std::string_view group;
   for (const PanelField& field : fields) {
     if (field.Group != std::exchange(group, field.Group)) {
-      grid->addWidget(MakeHeading(ToQt(field.Group)), grid->rowCount(), CaptionColumn, 1, 2);
+      grid->addWidget(MakeHeading(Translated(field.Group)), grid->rowCount(), CaptionColumn, 1, 2);
     }
     AddLine(grid, field);
   }
@@ -79,7 +86,7 @@ void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
   const bool isTicked = field.Act == BoxAct::Tick;
   Line line{&field, isTicked ? nullptr : MakeCaption(field), MakeBox(field)};
   line.Box->setObjectName(ToQt(field.Control));
-  line.Box->setAccessibleName(Spoken(ToQt(field.Caption)));
+  line.Box->setAccessibleName(Spoken(Translated(field.Caption)));
   line.Box->setAccessibleDescription(SpokenHint(field));
   Watch(line.Box);
   if (line.Caption) grid->addWidget(line.Caption, row, CaptionColumn);
@@ -88,7 +95,7 @@ void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
 }
 
 QLabel* FieldPanel::MakeCaption(const PanelField& field) {
-  auto* caption = new QLabel(ToQt(field.Caption), Page());
+  auto* caption = new QLabel(Translated(field.Caption), Page());
   caption->setObjectName(CaptionName(field.Control));
   caption->setTextFormat(Qt::PlainText);
   caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -98,7 +105,7 @@ QLabel* FieldPanel::MakeCaption(const PanelField& field) {
 
 QWidget* FieldPanel::MakeBox(const PanelField& field) {
   if (field.Act == BoxAct::Tick) {
-    auto* box = new QCheckBox(ToQt(field.Caption), Page());
+    auto* box = new QCheckBox(Translated(field.Caption), Page());
     connect(box, &QCheckBox::clicked, this, &FieldPanel::Ticked);
     return box;
   }
@@ -139,13 +146,13 @@ void FieldPanel::Write(QLineEdit& box, const QString& text) {
 bool FieldPanel::KeepsZero(const Line& line, const BandSaw& saw, const DisplayFormat& format) const {
   const auto* box = qobject_cast<MeasureBox*>(line.Box);
   return box && isVisible() && !box->text().isEmpty() && line.Field->Shown(saw, format).empty() &&
-         box->text() == ToQt(AcceptedText(*line.Field, saw, format));
+         box->text() == Translated(AcceptedText(*line.Field, saw, format));
 }
 
 void FieldPanel::FillBoxes(const BandSaw& saw, const DisplayFormat& format) {
   for (const Line& line : lines_) {
     if (KeepsZero(line, saw, format)) continue;
-    const QString text = ToQt(line.Field->Shown(saw, format));
+    const QString text = Shown(*line.Field, saw, format);
     if (auto* tick = qobject_cast<QCheckBox*>(line.Box)) {
       tick->setChecked(!text.isEmpty());
     } else {
@@ -157,7 +164,8 @@ void FieldPanel::FillBoxes(const BandSaw& saw, const DisplayFormat& format) {
 void FieldPanel::ShowAccepted(const PanelField& field, const BandSaw& saw, const DisplayFormat& format) {
   for (const Line& line : lines_) {
     if (line.Field != &field) continue;
-    if (auto* box = qobject_cast<MeasureBox*>(line.Box)) Write(*box, ToQt(AcceptedText(field, saw, format)));
+    if (auto* box = qobject_cast<MeasureBox*>(line.Box))
+      Write(*box, Translated(AcceptedText(field, saw, format)));
   }
 }
 

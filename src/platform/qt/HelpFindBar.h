@@ -10,6 +10,8 @@ namespace tarnwick {
 
 /// The bar below a page that finds words on it; hidden until it is asked for.
 class HelpFindBar final : public QWidget {
+  Q_OBJECT
+
  public:
   HelpFindBar(QTextBrowser& page, QWidget* parent);
 

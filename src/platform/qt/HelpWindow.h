@@ -22,6 +22,8 @@ class HelpSearchPane;
 /// The window of the manual: contents, index and search at the left, a page at the right. It stays usable
 /// while a dialog of the program waits for an answer, since that is when most questions come up.
 class HelpWindow final : public QWidget {
+  Q_OBJECT
+
  public:
   explicit HelpWindow(const HelpFiles& files);
 

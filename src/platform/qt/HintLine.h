@@ -9,6 +9,8 @@ namespace tarnwick {
 /// A line that says what the control under the mouse is for, and is empty over the window itself. A control
 /// that is reached by Tab is explained as well, until the mouse moves.
 class HintLine final : public QLabel {
+  Q_OBJECT
+
  public:
   using HintOf = std::function<QString(const QString& control)>;  // empty for a control without a hint
 

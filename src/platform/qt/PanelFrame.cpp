@@ -9,8 +9,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/PanelWidth.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/TabStep.h"
 #include "shell/modString.h"
 
@@ -60,7 +60,7 @@ QPushButton* PanelFrame::AddButton(const char* name, const QString& caption, con
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setAccessibleName(spoken);
-  button->setAccessibleDescription(ToQt(NumberedText(hint)));
+  button->setAccessibleDescription(Translated(NumberedText(hint)));
   button->setAutoDefault(true);  // Enter presses the one that has the focus
   Watch(button);
   if (side == Side::Left) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/qt/FormWindow.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/MeasureGrid.h"
 #include "platform/qt/QtText.h"
@@ -52,7 +53,7 @@ void PowerBoxes::AddTo(MeasureGrid& grid, std::initializer_list<PowerBox> boxes)
 
 void PowerBoxes::Add(MeasureGrid& grid, const PowerBoxRow& row) {
   MeasureBox* box =
-      grid.AddBox(ToQt(row.Control) + side_.Suffix, ToQt(row.Caption), SpokenOf(row), PressOf(row));
+      grid.AddBox(ToQt(row.Control) + side_.Suffix, Translated(row.Caption), SpokenOf(row), PressOf(row));
   box->setMinimumWidth(RoomFor(row.Box, *box));
   if (row.Box == PowerBox::SpecificEnergy) {  // a name has no blank ahead as the numbers have
     box->setTextMargins(box->fontMetrics().horizontalAdvance(' '), 0, 0, 0);
@@ -66,9 +67,9 @@ void PowerBoxes::Add(MeasureGrid& grid, const PowerBoxRow& row) {
 }
 
 QString PowerBoxes::SpokenOf(const PowerBoxRow& row) const {
-  QString caption = ToQt(row.Caption).trimmed();
+  QString caption = Translated(row.Caption).trimmed();
   caption.remove(':');
-  if (!row.Frame.empty()) caption = ToQt(row.Frame).remove(':') + ", " + caption;
+  if (!row.Frame.empty()) caption = Translated(row.Frame).remove(':') + ", " + caption;
   return side_.Spoken.arg(caption);
 }
 

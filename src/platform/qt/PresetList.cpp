@@ -8,6 +8,8 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "platform/qt/Language.h"
+
 namespace tarnwick {
 namespace {
 
@@ -42,7 +44,7 @@ PresetList::PresetList(QWidget* parent) : QListWidget(parent) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void PresetList::AddEntry(const std::string& text) { addItem(QString::fromStdString(text)); }
+void PresetList::AddEntry(const std::string& text) { addItem(Translated(text)); }
 
 void PresetList::AddHeading(const std::string& text) {
   AddEntry(text);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/SeenLines.h"
 #include "platform/qt/WideRegisters.h"
 
@@ -120,15 +121,13 @@ void QtCanvas::Polygon(std::span<const Spot> points) {
 
 PixelSize QtCanvas::TextSize(std::string_view text) const {
   const QFontMetricsF metrics(painter_.font(), painter_.device());
-  return {metrics.horizontalAdvance(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))),
-          metrics.height()};
+  return {metrics.horizontalAdvance(Translated(text)), metrics.height()};
 }
 
 void QtCanvas::Text(Spot topLeft, std::string_view text) {
   Flush();
   const QFontMetricsF metrics(painter_.font(), painter_.device());
-  painter_.drawText(QPointF(topLeft.X, topLeft.Y + metrics.ascent()),
-                    QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  painter_.drawText(QPointF(topLeft.X, topLeft.Y + metrics.ascent()), Translated(text));
 }
 
 void QtCanvas::Flush() {

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/WindowInUse.h"
 
@@ -18,7 +19,7 @@ QStringList NameFilters(const std::string& filter) {
   const QStringList parts = ToQt(filter).split('|');
   for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
     const QString pattern = "(" + QString(parts[at + 1]).replace(';', ' ') + ")";
-    const QString& words = parts[at];
+    const QString words = Translated(parts[at].toStdString());
     filters.append(words.endsWith(pattern) ? words : words + " " + pattern);
   }
   return filters;

@@ -2,10 +2,10 @@
 
 #include <QMessageBox>
 #include <QPushButton>
-#include <QString>
 #include <utility>
 #include <vector>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/WindowInUse.h"
 
 namespace tarnwick {
@@ -57,9 +57,9 @@ QMessageBox::Icon IconOf(Icon icon) {
 
 Button QtMessages::Show(const Box& box) {
   QMessageBox shown(WindowInUse());
-  shown.setWindowTitle(QString::fromStdString(box.Title));
+  shown.setWindowTitle(Translated(box.Title));
   shown.setTextFormat(Qt::PlainText);
-  shown.setText(QString::fromStdString(box.Text));
+  shown.setText(Translated(box.Text));
   shown.setIcon(IconOf(box.Shown));
   const Button closed = box.Offer == Buttons::YesNoCancel ? Button::Cancel : box.Default;
   Button answer = closed;

@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/CenterForm.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/PictureBox.h"
-#include "platform/qt/QtText.h"
 
 namespace tarnwick {
 namespace {
@@ -24,9 +24,9 @@ constexpr int FootGap = 8;  // below the line of hints
 QuestionWindow::QuestionWindow(const Question& question, HelpViewer& help, QWidget* parent)
     : QDialog(parent) {
   setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
-  setWindowTitle(ToQt(question.Title));
+  setWindowTitle(Translated(question.Title));
 
-  lblDisplay_ = new QLabel(ToQt(question.Prompt), this);
+  lblDisplay_ = new QLabel(Translated(question.Prompt), this);
   lblDisplay_->setObjectName("lblDisplay");
   lblDisplay_->setTextFormat(Qt::PlainText);
   lblDisplay_->setAccessibleName(lblDisplay_->text().simplified());
@@ -45,7 +45,7 @@ QuestionWindow::QuestionWindow(const Question& question, HelpViewer& help, QWidg
           &QPushButton::click);
 
   lblStatus_ = new HintLine(
-      [hint = question.Hint](const QString& name) { return ToQt(hint(name.toStdString())); }, this);
+      [hint = question.Hint](const QString& name) { return Translated(hint(name.toStdString())); }, this);
   lblStatus_->setObjectName("lblStatus");
 }
 

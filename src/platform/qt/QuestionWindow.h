@@ -20,6 +20,8 @@ class PictureBox;
 /// answer at the right, OK, Cancel and Help below, a line of hints at the foot. A question blocks the window
 /// that asks it.
 class QuestionWindow : public QDialog {
+  Q_OBJECT
+
  protected:
   /// What stays the same while a question is open.
   struct Question {

@@ -12,7 +12,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/RowListAccess.h"
 #include "platform/qt/TabStep.h"
 #include "window/modRowScroll.h"
@@ -81,7 +81,7 @@ void RowList::SetValueColumn(int left) {
 }
 
 int RowList::LeastValueColumn() const {
-  return Margin + QFontMetrics(plain_).horizontalAdvance(WidestCaption) + Margin;
+  return Margin + QFontMetrics(plain_).horizontalAdvance(Translated(WidestCaption)) + Margin;
 }
 
 /// A row is as wide as the list.
@@ -104,10 +104,10 @@ void RowList::PaintRow(QPainter& painter, const InfoRow& row, bool inverse) cons
   painter.setPen(inverse ? Qt::white : Qt::black);
   painter.setFont(row.Header ? bold_ : plain_);
   painter.drawText(box.adjusted(Margin, 0, -Margin, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-                   ToQt(row.Caption));
+                   Translated(row.Caption));
   const QRect room = box.adjusted(valueColumn_, 0, -Margin, 0);
   painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine,
-                   painter.fontMetrics().elidedText(ToQt(row.Value), Qt::ElideRight, room.width()));
+                   painter.fontMetrics().elidedText(Translated(row.Value), Qt::ElideRight, room.width()));
 }
 
 // ---- the row lifted out

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <map>
 
-#include "platform/qt/QtText.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/RowList.h"
 
 namespace tarnwick {
@@ -31,7 +31,7 @@ class RowAccess final : public QAccessibleInterface, public QAccessibleActionInt
   [[nodiscard]] QString text(QAccessible::Text which) const override {
     const InfoRow* row = Row();
     if (!row || which != QAccessible::Name) return {};
-    return (ToQt(row->Caption) + ToQt(row->Value)).simplified();
+    return (Translated(row->Caption) + Translated(row->Value)).simplified();
   }
   void setText(QAccessible::Text, const QString&) override {}
 

@@ -13,6 +13,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/qt/Language.h"
 #include "platform/qt/LineIcon.h"
 #include "platform/qt/QtText.h"
 #include "shell/modString.h"
@@ -113,7 +114,7 @@ void ToolBar::AddCommandsOf(const QObject& window) {
     if (!command) continue;
     if (group != row.Group) BeginGroup();
     group = row.Group;
-    Add(ToQt(row.Button), command, ToQt(row.Icon()), ToQt(NumberedText(row.Hint)));
+    Add(ToQt(row.Button), command, ToQt(row.Icon()), Translated(NumberedText(row.Hint)));
   }
 }
 
