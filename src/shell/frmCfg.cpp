@@ -22,8 +22,10 @@
 #include <chrono>
 
 #include "entry/modFormat.h"
+#include "platform/qt/BoxArea.h"
 #include "platform/qt/CenterForm.h"
 #include "platform/qt/ColourSwatch.h"
+#include "platform/qt/Language.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ReachableBar.h"
 #include "shell/frmColor.h"
@@ -68,7 +70,7 @@ void Quietly(Control* control, Change change) {
   change(*control);
 }
 
-/// A page of frames one below the other.
+/// A page of frames one below the other, which scrolls where the letters are too large for the screen.
 QWidget* Page(std::initializer_list<QWidget*> frames) {
   auto* page = new QWidget;
   auto* column = new QVBoxLayout(page);
@@ -76,7 +78,7 @@ QWidget* Page(std::initializer_list<QWidget*> frames) {
   column->setSpacing(Margin);
   for (QWidget* frame : frames) column->addWidget(frame);
   column->addStretch();
-  return page;
+  return new BoxArea(page);
 }
 
 }  // namespace
@@ -102,9 +104,11 @@ frmCfg::frmCfg(OptionsDialog& dialog, ColorDialog& colours, HelpViewer& help, QW
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
           [this] { help_.ShowTopic(Topic); });
   connect(qApp, &QApplication::focusChanged, this, &frmCfg::LeaveBoxes);
+  connect(qApp, &QApplication::focusChanged, this, &frmCfg::ShowFocus);
   ShowState();
   SSTab1_->setFocus();
   CenterForm(*this);
+  installEventFilter(this);  // its size is settled ahead of its place
 }
 
 /// The focus goes elsewhere as well when the boxes are torn down; nobody is there to read them then.
@@ -230,6 +234,7 @@ void frmCfg::PickDxfColour() {
 
 /// The caption of a sample is as good as the sample.
 bool frmCfg::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == this && event->type() == QEvent::Show && !fitted_) FitScreen();
   if (event->type() == QEvent::MouseButtonRelease) {
     const auto* click = static_cast<QMouseEvent*>(event);
     const auto* caption = qobject_cast<QLabel*>(watched);
@@ -398,6 +403,22 @@ void frmCfg::LeaveBoxes() {
 
 // ---- showing
 
+/// The pages need not shrink any more, as they scroll; what they ask for is asked for once, when all frames
+/// have found their borders.
+void frmCfg::FitScreen() {
+  fitted_ = true;
+  const QSize room = LayOutForScreen(*this);
+  SSTab1_->updateGeometry();  // the pages do not tell it what they have learnt
+  ResizeWithin(*this, room);
+}
+
+/// Tab may come to a control that is scrolled out of sight.
+void frmCfg::ShowFocus() {
+  QWidget* now = QApplication::focusWidget();
+  auto* page = qobject_cast<QScrollArea*>(SSTab1_->currentWidget());
+  if (now && page && page->isAncestorOf(now)) page->ensureWidgetVisible(now, 0, Margin);
+}
+
 void frmCfg::ShowState() {
   ShowGeneral();
   ShowColours();
@@ -416,10 +437,10 @@ void frmCfg::ShowGeneral() {
     });
   }
   Quietly(chkQuickClick_, [this](QCheckBox& check) { check.setChecked(dialog_.QuickClickTicked()); });
-  const QString caption = ToQt(dialog_.QuickClickCaption());
+  const QString caption = Translated(dialog_.QuickClickCaption());
   chkQuickClick_->setText(caption);
   chkQuickClick_->setAccessibleName(caption);
-  chkQuickClick_->setToolTip(ToQt(dialog_.QuickClickHint()));
+  chkQuickClick_->setToolTip(Translated(dialog_.QuickClickHint()));
 }
 
 void frmCfg::ShowColours() {
@@ -438,7 +459,7 @@ void frmCfg::ShowOutput() {
   lblLineThickness_->setFixedHeight(thickness);
   Quietly(chkPrintPowerReq_, [this](QCheckBox& check) { check.setChecked(dialog_.Shown().PrintPowerReq); });
   Quietly(hscDxfMemory_, [this](QScrollBar& bar) { bar.setValue(dialog_.DxfPosition()); });
-  lblDxfNumber_->setText(ToQt(dialog_.DxfNumberText()));
+  lblDxfNumber_->setText(Translated(dialog_.DxfNumberText()));
 }
 
 }  // namespace tarnwick

@@ -24,6 +24,8 @@ class ColourSwatch;
 
 /// The window of an OptionsDialog.
 class frmCfg final : public QDialog {
+  Q_OBJECT
+
  public:
   frmCfg(OptionsDialog& dialog, ColorDialog& colours, HelpViewer& help, QWidget* parent = nullptr);
   ~frmCfg() override;
@@ -51,6 +53,8 @@ class frmCfg final : public QDialog {
 
   void PickDxfColour();
   void LeaveBoxes();
+  void FitScreen();
+  void ShowFocus();
   void PressOk();
   void ShowState();
   void ShowGeneral();
@@ -61,6 +65,7 @@ class frmCfg final : public QDialog {
   ColorDialog& colours_;
   HelpViewer& help_;
 
+  bool fitted_ = false;
   QTabWidget* SSTab1_ = nullptr;
   QRadioButton* optImperial_ = nullptr;
   QRadioButton* optMetric_ = nullptr;

@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -116,6 +118,7 @@ class frmCfgTest : public QObject {
   void alignsItsBoxes();
   void clipsNothing_data();
   void clipsNothing();
+  void scrollsWhereTheLettersAreTooLarge();
 
  private:
   void Open() { Open(messages_); }
@@ -172,6 +175,7 @@ void frmCfgTest::TurnTo(int page) {
   auto* bar = Find<QTabWidget>("SSTab1")->tabBar();
   QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(page).center());
   QCOMPARE(bar->currentIndex(), page);
+  QApplication::processEvents();
 }
 
 void frmCfgTest::TurnToPageOf(const QString& name) {
@@ -904,11 +908,48 @@ void frmCfgTest::clipsNothing() {
       if (!NumberNames.contains(name)) controls += name;  // wide enough for its figures alone
     }
     QCOMPARE(test::Clipped(*window_, controls).join(", "), QString());
+    const auto* area = qobject_cast<QScrollArea*>(Find<QTabWidget>("SSTab1")->widget(page));
+    QVERIFY(!area->verticalScrollBar()->isVisible() && !area->horizontalScrollBar()->isVisible());
   }
   for (const QString& name : NumberNames) {
     const int figures = Box(name)->fontMetrics().horizontalAdvance("0.6667");
     QVERIFY(Box(name)->contentsRect().width() > figures);
   }
+  QApplication::setFont(before);
+}
+
+void frmCfgTest::scrollsWhereTheLettersAreTooLarge() {
+  const QFont before = QApplication::font();
+  QFont font = before;
+  font.setPointSize(26);
+  QApplication::setFont(font);
+  Open();
+  const QSize screen = window_->screen()->availableSize();
+  QVERIFY(window_->width() <= screen.width() && window_->height() <= screen.height());
+  for (const QString& name : ButtonNames) {
+    QVERIFY(window_->rect().contains(Find<QWidget>(name)->geometry()));
+  }
+  auto* pages = Find<QTabWidget>("SSTab1");
+  for (int page = 0; page < Pages; ++page) {
+    TurnTo(page);
+    const auto* area = qobject_cast<QScrollArea*>(pages->currentWidget());
+    QVERIFY(area);
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+      int seen = 0;
+      pages->setFocus();
+      for (int i = 0; i < PageControls(page).size() + ButtonNames.size() + 1; ++i) {
+        QTest::keyClick(window_->focusWidget(), key);
+        const auto* control = window_->focusWidget();  // the keys bring it into sight
+        if (!area->isAncestorOf(control)) continue;
+        const QRect place(control->mapTo(area->viewport(), QPoint()), control->size());
+        QVERIFY2(area->viewport()->rect().intersected(place).height() == place.height(),
+                 qPrintable(control->objectName()));
+        ++seen;
+      }
+      QVERIFY(seen > 0);
+    }
+  }
+  QVERIFY(qobject_cast<QScrollArea*>(pages->widget(General))->verticalScrollBar()->maximum() > 0);
   QApplication::setFont(before);
 }
 

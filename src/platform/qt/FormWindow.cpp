@@ -1,38 +1,22 @@
 #include "platform/qt/FormWindow.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QKeySequence>
 #include <QLayout>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QShortcut>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include "platform/qt/BoxArea.h"
 #include "platform/qt/CenterForm.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr const char* TopicProperty = "helpTopic";
-
-/// Asks for the whole of what it shows, and does with less.
-class BoxArea final : public QScrollArea {
- public:
-  explicit BoxArea(QWidget* boxes) {
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setWidget(boxes);
-    setWidgetResizable(true);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-  }
-  [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
-};
 
 /// A wheel that turns while it passes over a list chooses nothing from it.
 class WheelPassedOn final : public QObject {
@@ -106,17 +90,9 @@ void FormWindow::StackRows(int room) {
 
 /// The toolkit would open a window on two thirds of the screen at most, however many boxes it has.
 void FormWindow::FitScreen() {
-  for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-  const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-  const QSize room = screen()->availableSize() - QSize(0, titleBar);
+  const QSize room = LayOutForScreen(*this);
   if (area_ && sizeHint().width() > room.width()) StackRows(room.width());
-
-  QSize wanted = sizeHint();
-  if (area_ && wanted.height() > room.height()) {
-    wanted.rwidth() += area_->verticalScrollBar()->sizeHint().width();
-  }
-  resize(wanted.boundedTo(room));
+  ResizeWithin(*this, room);
 }
 
 void FormWindow::setVisible(bool visible) {
