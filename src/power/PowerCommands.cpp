@@ -10,12 +10,10 @@ namespace tarnwick {
 namespace {
 
 /// Unlike its kin this question ends without a line break.
-Box ChangedQuestion() {
-  return {.Title = "Changed",
-          .Text = "Bandsaw has been changed!\nDo you wish to keep the existing changes?",
-          .Offer = Buttons::YesNoCancel,
-          .Shown = Icon::Question,
-          .Default = Button::Cancel};
+Box ChangedQuestionOfPower() {
+  Box question = ChangedQuestion(Button::Cancel);
+  question.Text.pop_back();
+  return question;
 }
 
 }  // namespace
@@ -23,7 +21,7 @@ Box ChangedQuestion() {
 void OpenPowerEditor(const PowerDesk& desk) {
   OpenDesign& design = desk.Process.Design;
   if (!PowerDataRequired(design.Saw, desk.Process.Out.Say)) return;
-  if (!KeepsOrRestores(desk.Process, desk.Panels, ChangedQuestion())) return;
+  if (!KeepsOrRestores(desk.Process, desk.Panels, ChangedQuestionOfPower())) return;
   desk.Process.SaveSettings();
   design.SawEdit = design.Saw;
 

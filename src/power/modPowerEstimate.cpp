@@ -8,25 +8,9 @@ namespace {
 constexpr double EstimateMarker = 4.0;
 
 PowerEstimate CurrentRow(const BandSaw& saw, const PowerSettings& settings) {
-  const BandSaw::General& general = saw.GeneralInfo;
-  PowerEstimate row;
+  PowerEstimate row = StoredFigures(saw);
   row.Marker = EstimateMarker;
-  row.Length = saw.Length;
-  row.Width = saw.Width;
-  row.WheelDia = saw.MachineInfo.WheelDia;
-  row.NumTeeth = saw.NumTeeth;
-  row.Pitch = saw.Pitch;
-  row.PlateThick = general.PlateThick;
-  row.Kerf = general.Kerf;
-  row.SideClear = general.SideClear;
-  row.ShaftSpeed = general.ShaftSpeed;
   row.SawVelocity = CalcSawVelocity(row.WheelDia, row.ShaftSpeed);
-  row.DepthOfCut = general.DepthOfCut;
-  row.FeedRate = general.FeedRate;
-  row.WoodType = general.WoodType;
-  row.HorsePower = general.HorsePower;
-  row.Bite = saw.GulletInfo.Bite;
-  row.GulletArea = saw.GulletInfo.Area;
   Let(row.AreaBelowTip) = settings.GulletFeedIndex * row.GulletArea;
   row.Capacity = CalcCapacityChecked(row.Bite, row.DepthOfCut, settings.DecimalPlaces);
   return row;
@@ -59,6 +43,28 @@ void ChangeBite(PowerEstimate& row, int places) {
 }
 
 }  // namespace
+
+PowerEstimate StoredFigures(const BandSaw& saw) {
+  const BandSaw::General& general = saw.GeneralInfo;
+  PowerEstimate row;
+  row.WheelDia = saw.MachineInfo.WheelDia;
+  row.Width = saw.Width;
+  row.Length = saw.Length;
+  row.Pitch = saw.Pitch;
+  row.NumTeeth = saw.NumTeeth;
+  row.PlateThick = general.PlateThick;
+  row.Kerf = general.Kerf;
+  row.SideClear = general.SideClear;
+  row.ShaftSpeed = general.ShaftSpeed;
+  row.SawVelocity = saw.DesignInfo.SawVelocity;
+  row.DepthOfCut = general.DepthOfCut;
+  row.FeedRate = general.FeedRate;
+  row.WoodType = general.WoodType;
+  row.HorsePower = general.HorsePower;
+  row.Bite = saw.GulletInfo.Bite;
+  row.GulletArea = saw.GulletInfo.Area;
+  return row;
+}
 
 std::optional<PowerEstimates> BuildPowerEstimates(const BandSaw& saw, double percent,
                                                   const PowerSettings& settings) {

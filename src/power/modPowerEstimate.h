@@ -43,6 +43,9 @@ struct PowerEstimate {
 using PowerEstimates = std::array<PowerEstimate, 4>;
 enum PowerEstimateRow : std::size_t { CurrentFigures = 0, ByPitch = 1, ByWheelSpeed = 2, ByBite = 3 };
 
+/// What the record has of both kinds of columns, as it stands there.
+[[nodiscard]] PowerEstimate StoredFigures(const BandSaw& saw);
+
 /// Figures for feed rates that rise by `percent` from one to the next.
 ///
 /// The current row shows the stored figures, but for its tooth speed and required capacity, which are worked

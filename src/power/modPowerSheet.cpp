@@ -93,25 +93,8 @@ std::string EstimateHeading(double percent, LinesFor place) {
 }
 
 PowerEstimate CalculationRow(const BandSaw& saw, double feedIndex) {
-  const BandSaw::General& general = saw.GeneralInfo;
-  PowerEstimate row;
-  row.WheelDia = saw.MachineInfo.WheelDia;
+  PowerEstimate row = StoredFigures(saw);
   row.CenterToCenter = saw.MachineInfo.CenterToCenter;
-  row.Width = saw.Width;
-  row.Length = saw.Length;
-  row.Pitch = saw.Pitch;
-  row.NumTeeth = saw.NumTeeth;
-  row.PlateThick = general.PlateThick;
-  row.Kerf = general.Kerf;
-  row.SideClear = general.SideClear;
-  row.ShaftSpeed = general.ShaftSpeed;
-  row.SawVelocity = saw.DesignInfo.SawVelocity;
-  row.DepthOfCut = general.DepthOfCut;
-  row.FeedRate = general.FeedRate;
-  row.WoodType = general.WoodType;
-  row.HorsePower = general.HorsePower;
-  row.Bite = saw.GulletInfo.Bite;
-  row.GulletArea = saw.GulletInfo.Area;
   row.Capacity = saw.GulletInfo.Capacity;
   row.FeedIndex = feedIndex;
   return row;

@@ -92,9 +92,10 @@ class DocumentCommands::Work {
 // ---- questions
 
 /// Whether the design may be left: it is as saved, or saved now, or given up.
-bool DocumentCommands::MayLeave(std::string_view changed) {
-  if (SameSaw(Design().Saw, Design().SawSaved)) return true;
-  switch (Ask(SaveQuestion(changed))) {
+/// @param question  about saving the open design, with Yes, No and Cancel
+/// @return false when it is to stay
+bool DocumentCommands::SavesOrGivesUp(const Box& question) {
+  switch (Ask(question)) {
     case Button::Yes:
       return SaveBeforeLeaving();
     case Button::No:
@@ -106,18 +107,11 @@ bool DocumentCommands::MayLeave(std::string_view changed) {
   return false;
 }
 
-bool DocumentCommands::MayOpenAgain() {
-  switch (Ask(AlreadyOpenQuestion())) {
-    case Button::Yes:
-      return SaveBeforeLeaving();
-    case Button::No:
-      return true;
-    case Button::Ok:
-    case Button::Cancel:
-      break;
-  }
-  return false;
+bool DocumentCommands::MayLeave(std::string_view changed) {
+  return SameSaw(Design().Saw, Design().SawSaved) || SavesOrGivesUp(SaveQuestion(changed));
 }
+
+bool DocumentCommands::MayOpenAgain() { return SavesOrGivesUp(AlreadyOpenQuestion()); }
 
 bool DocumentCommands::MayReplace(const std::string& path) const {
   return Ask(ReplaceQuestion(path)) == Button::Yes;

@@ -76,6 +76,7 @@ class DocumentCommands {
 
   [[nodiscard]] OpenDesign& Design() const { return desk_.Process.Design; }
   Button Ask(const Box& box) const { return desk_.Process.Out.Say.Show(box); }
+  [[nodiscard]] bool SavesOrGivesUp(const Box& question);
   [[nodiscard]] bool MayLeave(std::string_view changed);
   [[nodiscard]] bool MayOpenAgain();
   void OpenCommandFile();

@@ -9,14 +9,6 @@
 namespace tarnwick {
 namespace {
 
-Box ChangedQuestion() {
-  return {.Title = "Changed",
-          .Text = "Bandsaw has been changed!\nDo you wish to keep the existing changes?\n",
-          .Offer = Buttons::YesNoCancel,
-          .Shown = Icon::Question,
-          .Default = Button::No};  // the other editors' question has Cancel: both are meant
-}
-
 std::string StyleRefusal(int toothStyle) {
   switch (toothStyle) {
     case NarrowStyle:
@@ -75,7 +67,7 @@ void VariableCommands::OpenVariable() {
     return;
   }
   const BandSaw shown = design.Saw;
-  if (!KeepsOrRestores(program_, view_, ChangedQuestion())) return;
+  if (!KeepsOrRestores(program_, view_, ChangedQuestion(Button::No))) return;
   if (view_.CurrentPanel() == Panel::Variable) {
     if (!SameSaw(shown, design.Saw)) Fill();  // back at the last OK, and so is the panel
     return;

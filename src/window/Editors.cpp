@@ -7,18 +7,6 @@
 #include "window/modSelect.h"
 
 namespace tarnwick {
-namespace {
-
-Box ChangedQuestion() {
-  return {.Title = "Changed",
-          .Text = "Bandsaw has been changed!\nDo you wish to keep the existing changes?\n",
-          .Offer = Buttons::YesNoCancel,
-          .Shown = Icon::Question,
-          .Default = Button::Cancel};
-}
-
-}  // namespace
-
 Questions Editors::Asking() const {
   return {host_, program_.Out.Say, program_.Design.Format(), [this] { program_.SaveSettings(); }};
 }
@@ -32,7 +20,7 @@ void Editors::Restore() { RestoreAccepted(program_.Design, view_); }
 
 // ---- leaving an editor by the menu
 
-bool Editors::MayLeave() { return KeepsOrRestores(program_, view_, ChangedQuestion()); }
+bool Editors::MayLeave() { return KeepsOrRestores(program_, view_, ChangedQuestion(Button::Cancel)); }
 
 void Editors::OpenMain() {
   if (!MayLeave() || view_.CurrentPanel() == Panel::Main) return;

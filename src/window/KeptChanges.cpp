@@ -2,6 +2,14 @@
 
 namespace tarnwick {
 
+Box ChangedQuestion(Button byDefault) {
+  return {.Title = "Changed",
+          .Text = "Bandsaw has been changed!\nDo you wish to keep the existing changes?\n",
+          .Offer = Buttons::YesNoCancel,
+          .Shown = Icon::Question,
+          .Default = byDefault};
+}
+
 void RestoreAccepted(OpenDesign& design, MainView& view) {
   design.Saw = design.SawEdit;
   design.ImpMetric = design.Saw.ImpMetric;
