@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 namespace tarnwick {
 
 /// Outer size of a window, frame included, in device-independent pixels.
@@ -14,10 +16,12 @@ struct WindowLimits {
 };
 
 /// The main window opens filling the work area and never grows beyond it. It can be made as small as 800 x
-/// 600; on a screen no wider than that it always fills the work area.
+/// 600; on a screen no wider than that it always fills the work area. A wide screen may be lower than 600 (a
+/// laptop with large letters): its work area is high enough then, or the foot of the window would lie below.
 [[nodiscard]] constexpr WindowLimits MainWindowLimits(int screenWidth, WindowSize workArea) {
   constexpr WindowSize smallest{800, 600};
-  return {screenWidth > smallest.Width ? smallest : workArea, workArea};
+  if (screenWidth <= smallest.Width) return {workArea, workArea};
+  return {{smallest.Width, std::min(smallest.Height, workArea.Height)}, workArea};
 }
 
 /// What parts of the main window gain when it is wider than the smallest one, in device-independent pixels.

@@ -17,6 +17,12 @@ TEST(MainWindowSize, CannotBeLessThanTheWorkAreaOfASmallScreen) {
   EXPECT_EQ(limits.Most, (WindowSize{800, 570}));
 }
 
+TEST(MainWindowSize, IsNeverHigherThanTheWorkArea) {
+  const WindowLimits limits = MainWindowLimits(960, {960, 500});
+  EXPECT_EQ(limits.Least, (WindowSize{800, 500}));
+  EXPECT_EQ(limits.Most, (WindowSize{960, 500}));
+}
+
 TEST(MainWindowSize, GoesByTheWholeScreenNotByTheWorkArea) {
   EXPECT_EQ(MainWindowLimits(801, {700, 600}).Least, (WindowSize{800, 600}));
 }
