@@ -33,6 +33,7 @@ NAMED = {
     "frost-notch-width": ["FrostWidth"], "frost-notch-height": ["FrostHeight"],
     "frost-notch-radius": ["FrostRadius"], "frost-notch-angle": ["FrostAngle"],
     "typing": [], "units": [], "results": [], "variable-pitch": [], "power-figures": [], "documents": [],
+    "window": [], "editors": [], "messages": [],
 }
 
 wrong = []
