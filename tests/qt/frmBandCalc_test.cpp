@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -102,6 +103,7 @@ class frmBandCalcTest : public QObject {
   void keepsThePictureWideEnough_data();
 
   void exportsTheDrawing();
+  void waitsAtItsOwnWindowAlone();
   void acceptsByOk();
   void acceptsByEnter();
   void acceptsByEnterInALengthThatIsRead();
@@ -392,6 +394,22 @@ void frmBandCalcTest::exportsTheDrawing() {
   QVERIFY(!test::BytesOf(program_->Documents / "mill.dxf").empty());
   QVERIFY(window_->isVisible());
   QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+/// What fails while it waits is told above it, and the message is no time to wait.
+void frmBandCalcTest::waitsAtItsOwnWindowAlone() {
+  Open(Machine(5, 10));
+  host_->SetBusy(true);
+  QCOMPARE(window_->cursor().shape(), Qt::WaitCursor);
+  QMessageBox failure(window_.get());
+  const QPushButton* ok = failure.addButton(QMessageBox::Ok);
+  failure.show();
+  QVERIFY(!QGuiApplication::overrideCursor());
+  QCOMPARE(failure.cursor().shape(), Qt::ArrowCursor);
+  QCOMPARE(ok->cursor().shape(), Qt::ArrowCursor);
+  failure.hide();
+  host_->SetBusy(false);
+  QCOMPARE(window_->cursor().shape(), Qt::ArrowCursor);
 }
 
 void frmBandCalcTest::acceptsByOk() {

@@ -1,7 +1,5 @@
 #include "platform/qt/QtMachineHost.h"
 
-#include <QGuiApplication>
-
 #include "machine/frmBandCalc.h"
 #include "machine/frmGauge.h"
 #include "platform/qt/WindowInUse.h"
@@ -16,9 +14,10 @@ void QtMachineHost::ShowPlateGauges(const DisplayFormat& format) {
 
 void QtMachineHost::SetBusy(bool busy) {
   if (busy) {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  } else {
-    QGuiApplication::restoreOverrideCursor();
+    busy_ = WindowInUse();
+    if (busy_) busy_->setCursor(Qt::WaitCursor);
+  } else if (busy_) {
+    busy_->unsetCursor();
   }
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QPointer>
+#include <QWidget>
+
 #include "machine/MachineHost.h"
 #include "platform/HelpViewer.h"
 
@@ -12,10 +15,12 @@ class QtMachineHost final : public MachineHost {
 
   void Run(BandCalculator& calculator) override;
   void ShowPlateGauges(const DisplayFormat& format) override;
+  /// On the window in use alone: a message above it is answered with the usual pointer.
   void SetBusy(bool busy) override;
 
  private:
   HelpViewer& help_;
+  QPointer<QWidget> busy_;  // the window with the hourglass
 };
 
 }  // namespace tarnwick
