@@ -23,9 +23,11 @@ packages_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev fonts-deja
 # shellcheck disable=SC2034
 packages_tests=(libgtest-dev libdxflib-dev python3 xvfb xdotool openbox imagemagick
   dbus at-spi2-core python3-pyatspi gir1.2-atspi-2.0 # the way in of a screen reader
-  cups-daemon cups-client poppler-utils)
+  cups-daemon cups-client poppler-utils
+  locales) # of which the tests take one with a decimal comma
 # shellcheck disable=SC2034
 packages_full=(clang-14 libclang-rt-14-dev llvm-14 clang-format-14 clang-tidy-14 libbenchmark-dev shellcheck
+  qt6-l10n-tools # what gathers the texts of the windows
   python3-ezdxf gdal-bin g++-mingw-w64-x86-64-posix googletest wine wine64
   dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libxml2-utils libglib2.0-bin mandoc groff-base)
 

@@ -8,6 +8,7 @@ run_full_stages() {
   run_stage "format" stage_format
   run_stage "shell scripts" stage_shell_scripts
   run_stage "static checks" stage_static_checks
+  run_stage "catalogue of texts" stage_catalogue
   run_stage "tests under sanitizers" stage_sanitizers
   run_stage "for Windows" stage_windows
   run_stage "fuzzing" stage_fuzzing
@@ -38,6 +39,11 @@ stage_shell_scripts() {
 stage_static_checks() {
   configure_preset static-checks
   /usr/bin/python3 -B scripts/static_checks.py build/static-checks
+}
+
+# What a translator starts from is what the windows say.
+stage_catalogue() {
+  /usr/bin/python3 -B scripts/catalogue.py --check
 }
 
 stage_sanitizers() {
