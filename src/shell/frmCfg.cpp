@@ -94,6 +94,7 @@ frmCfg::frmCfg(OptionsDialog& dialog, ColorDialog& colours, HelpViewer& help, QW
   SSTab1_->addTab(MakeColourPage(), tr("Co&lors"));
   SSTab1_->addTab(MakeOutputPage(), tr("&Printer and Dxf"));
   SSTab1_->addTab(MakeUserPage(), tr("&User Information"));
+  NameScrollBars();
 
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -410,6 +411,16 @@ void frmCfg::FitScreen() {
   const QSize room = LayOutForScreen(*this);
   SSTab1_->updateGeometry();  // the pages do not tell it what they have learnt
   ResizeWithin(*this, room);
+}
+
+/// Each page has its own; which one it is can only be told by a name.
+void frmCfg::NameScrollBars() {
+  for (int i = 0; i < SSTab1_->count(); ++i) {
+    const auto* page = qobject_cast<QScrollArea*>(SSTab1_->widget(i));
+    const QString caption = SSTab1_->tabText(i).remove('&');
+    page->horizontalScrollBar()->setAccessibleName(tr("Move %1 sideways").arg(caption));
+    page->verticalScrollBar()->setAccessibleName(tr("Move %1 up and down").arg(caption));
+  }
 }
 
 /// Tab may come to a control that is scrolled out of sight.

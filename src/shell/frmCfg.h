@@ -55,6 +55,7 @@ class frmCfg final : public QDialog {
   void LeaveBoxes();
   void FitScreen();
   void ShowFocus();
+  void NameScrollBars();
   void PressOk();
   void ShowState();
   void ShowGeneral();

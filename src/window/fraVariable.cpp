@@ -198,8 +198,8 @@ QWidget* fraVariable::MakeVarDepth() {
 
 QPushButton* fraVariable::MakePrint() {
   auto* print = new QPushButton(tr("&Print"), Page());
-  Name(print, "cmdVariablePrint", tr("Print"));
-  print->setAutoDefault(true);  // Enter presses it, as the buttons at the foot
+  Name(print, "cmdVariablePrint", tr("Print the segment"));  // the tool bar has a "Print"
+  print->setAutoDefault(true);                               // Enter presses it, as the buttons at the foot
   connect(print, &QPushButton::clicked, this, &fraVariable::PrintPressed);
   return print;
 }

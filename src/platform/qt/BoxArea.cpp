@@ -14,6 +14,8 @@ BoxArea::BoxArea(QWidget* boxes) {
   setWidget(boxes);
   setWidgetResizable(true);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  verticalScrollBar()->setAccessibleName(QScrollArea::tr("Move the boxes"));
+  horizontalScrollBar()->setAccessibleName(QScrollArea::tr("Move the boxes sideways"));
   for (QWidget* ground : {viewport(), boxes}) ground->setAutoFillBackground(false);  // what is below shows
 }
 
