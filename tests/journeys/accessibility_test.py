@@ -11,7 +11,8 @@ import unittest
 from collections import Counter
 from pathlib import Path
 
-from screen import PATIENCE, Screen, until
+from reader import Reader
+from screen import Screen, until
 
 PROGRAM = os.environ["TARNWICK"]
 TOOL = os.environ["TARNWICK_CLI"]
@@ -21,79 +22,6 @@ SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 CONTROLS = {"check box", "combo box", "list", "list item", "menu item", "page tab", "push button", "radio button",
             "scroll bar", "slider", "spin button", "text", "toggle button"}
 ROW_THAT_SETS_APART = ("list item", "")
-ANSWER = 700  # ms; an action that opens a question is answered when that closes, which is too late
-
-
-class Reader:
-    """The accessibility bus of a screen."""
-
-    def __init__(self, screen, name):
-        readable, writable = os.pipe()
-        screen.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writable}"], pass_fds=[writable],
-                     stdout=subprocess.DEVNULL)
-        os.close(writable)
-        with os.fdopen(readable) as answer:
-            screen.environment["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
-        screen.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
-        os.environ.update(screen.environment)
-        import pyatspi  # it looks for the bus at once
-        from gi.repository import Atspi, GLib
-        self.bus, self.failed, self.name = pyatspi, GLib.GError, name
-        Atspi.set_timeout(ANSWER, ANSWER)
-
-    def program(self):
-        """The program, with nothing remembered of it."""
-        for found in self.bus.Registry.getDesktop(0):
-            if found is not None and found.name == self.name:
-                found.clearCache()
-                return found
-        return None
-
-    def walk(self, node):
-        """A node and all below it, each with its role and name. What goes meanwhile is passed over."""
-        try:
-            yield node, node.getRoleName(), node.name
-            below = [node.getChildAtIndex(i) for i in range(node.childCount)]
-        except self.failed:
-            return
-        for child in below:
-            if child is not None:
-                yield from self.walk(child)
-
-    def shows(self, node):
-        try:
-            return node.getState().contains(self.bus.STATE_SHOWING)
-        except self.failed:
-            return False
-
-    def find(self, role, name, within=None):
-        """The only node of this role and name that shows, or the only one at all; None before it is there."""
-        top = within or self.program()
-        found = [n for n, *what in self.walk(top) if what == [role, name]] if top else []
-        for some in ([n for n in found if self.shows(n)], found):
-            assert len(some) < 2, f"{len(some)} times {role} {name!r}"
-            if some:
-                return some[0]
-        return None
-
-    def showing(self, role, name):
-        found = self.find(role, name)
-        return found if found and self.shows(found) else None
-
-    def wait_for(self, role, name, within=None):
-        return until(lambda: self.find(role, name, within), f"{role} {name!r}")
-
-    def press(self, node):
-        try:
-            node.queryAction().doAction(0)
-        except self.failed:
-            pass  # it has opened a question
-
-    def rows(self):
-        """The values of the band saw by their captions."""
-        shown = self.find("list", "Values of the band saw")
-        rows = [name for _, role, name in self.walk(shown) if role == "list item"] if shown else []
-        return dict(row.split(":", 1) for row in rows if ":" in row)
 
 
 class ScreenReader(unittest.TestCase):

@@ -197,6 +197,15 @@ class Desk(unittest.TestCase):
         self.front(caption)
         self.screen.keys("alt+f", *keys)
 
+    def steps(self, answers):
+        """The questions of a design that is made step by step, each with what is typed; None declines one."""
+        for title, answer in answers:
+            with self.subTest(title):
+                self.front(title)
+                if answer:
+                    self.screen.type(answer)
+                self.answer(title, "Return" if answer else "Escape")
+
     def type_hook(self, caption, angle):
         """A click on the row of the hook angle, and what is typed in its dialog."""
         self.front(caption)

@@ -48,6 +48,17 @@ class Picture:
         places = (match.start() for match in pattern.finditer(self.bytes))
         return sorted({place // 3 % self.width for place in places if place % 3 == 0})
 
+    def dark(self):
+        """The box of all that is darker than grey: its columns and rows, the last ones not in it; None without any."""
+        row = 3 * self.width
+        rows = [self.bytes[start:start + row:3] for start in range(0, row * self.height, row)]
+        reach = [[match.start() for match in re.finditer(rb"[\x00-\x7f]", found, re.DOTALL)] for found in rows]
+        marked = [y for y, columns in enumerate(reach) if columns]
+        if not marked:
+            return None
+        return (min(columns[0] for columns in reach if columns), marked[0],
+                max(columns[-1] for columns in reach if columns) + 1, marked[-1] + 1)
+
     def __eq__(self, other):
         return self.bytes == other.bytes
 
