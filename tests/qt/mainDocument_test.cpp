@@ -22,8 +22,8 @@ std::string Question(const char* first) {
 }
 
 /// What cannot be picked while a file is read or written.
-const char* const Locked[] = {"mnuItemAbout", "mnuItemSplash", "mnuItemNew", "mnuItemStepByStep",
-                              "mnuItemOptions"};
+const char* const Locked[] = {"mnuItemAbout",      "mnuItemSplash",  "mnuItemNew",
+                              "mnuItemStepByStep", "mnuItemOptions", "mnuItemPrintShape"};
 
 }  // namespace
 
