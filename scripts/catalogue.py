@@ -61,6 +61,8 @@ DATA = {"Tarnwick", "True", "False", "Hook", "Pitch", "Length", "Width", "Center
         "Estimates for bandsaw based on increasing feedrate by"}
 
 STRING = r'"(?:[^"\\\n]|\\.)*"'
+MESSAGE = re.compile(r" *<message>.*?</message>\n", re.DOTALL)
+MESSAGES = re.compile(rf"({MESSAGE.pattern})+", re.DOTALL)
 NAME = re.compile(r"^\S*[a-z][A-Z0-9]\S*$|[_<>$=%]|^\.")  # of controls, fields, pictures; formats
 
 
@@ -110,10 +112,15 @@ def made():
         run = subprocess.run(
             [LUPDATE, "-silent", "-locations", "none", "-source-language", "en", "-I", str(SOURCES), *windows, str(core),
              "-ts", str(catalogue)],
-            capture_output=True, text=True, check=True)
-        if run.stderr:  # a class that tr() knows by no name of its own
-            sys.exit(run.stderr)
-        return catalogue.read_text()
+            capture_output=True, text=True, check=False)
+        if run.returncode or run.stderr:  # such as a class that tr() knows by no name of its own
+            sys.exit(run.stderr or f"{LUPDATE} has failed")
+        return MESSAGES.sub(in_order, catalogue.read_text())
+
+
+def in_order(messages):
+    """By their texts, wherever in a source they stand."""
+    return "".join(sorted(MESSAGE.findall(messages.group())))
 
 
 def main():

@@ -15,22 +15,22 @@
 <context>
     <name>QPrintDialog</name>
     <message>
-        <source>Print Setup</source>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;OK</source>
+        <source>Print Setup</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>QScrollArea</name>
     <message>
-        <source>Move the boxes</source>
+        <source>Move the boxes sideways</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Move the boxes sideways</source>
+        <source>Move the boxes</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -149,10 +149,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Band Saw Files (*.bsw)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -165,11 +161,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Band Saw Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Band Saw Width</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Band Saw Width:</source>
+        <source>Band</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -221,11 +221,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Center to Center</source>
+        <source>Center to Center:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Center to Center:</source>
+        <source>Center to Center</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -249,11 +249,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Clearance Angle</source>
+        <source>Clearance Angle:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Clearance Angle:</source>
+        <source>Clearance Angle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -569,11 +569,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Contact</source>
+        <source>Contact www.tarnwick.example for an update.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Contact www.tarnwick.example for an update.</source>
+        <source>Contact</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -581,11 +581,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Customer</source>
+        <source>Customer:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Customer:</source>
+        <source>Customer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -789,10 +789,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Error %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -809,11 +805,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Face Length:</source>
+        <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Feed Rate</source>
+        <source>Face Length:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -822,6 +818,10 @@
     </message>
     <message>
         <source>Feed Rate:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feed Rate</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -857,15 +857,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Frost Notch Angle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Frost Notch Angle:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Frost Notch Height</source>
+        <source>Frost Notch Angle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -873,7 +869,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Frost Notch Radius</source>
+        <source>Frost Notch Height</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -881,11 +877,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Frost Notch Width</source>
+        <source>Frost Notch Radius</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Frost Notch Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frost Notch Width</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -901,15 +901,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Gullet Area:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Gullet Back Angle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -917,7 +909,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet Back Radius</source>
+        <source>Gullet Back Angle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -925,11 +917,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet Bottom Angle</source>
+        <source>Gullet Back Radius</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Gullet Bottom Angle:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gullet Bottom Angle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -945,11 +941,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet Depth</source>
+        <source>Gullet Depth:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet Depth:</source>
+        <source>Gullet Depth</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -957,11 +953,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Gullet Radius:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Gullet Radius</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet Radius:</source>
+        <source>Gullet Width:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -969,7 +969,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gullet Width:</source>
+        <source>Gullet</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -985,11 +985,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Hook Angle</source>
+        <source>Hook Angle:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Hook Angle:</source>
+        <source>Hook Angle</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1041,11 +1041,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Machine</source>
+        <source>Machine Information:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Machine Information:</source>
+        <source>Machine</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1081,10 +1081,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No Printers!</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1094,6 +1090,10 @@
     </message>
     <message>
         <source>No windows printers available!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1125,11 +1125,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Number of Teeth</source>
+        <source>Number of Teeth:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Number of Teeth:</source>
+        <source>Number of Teeth</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1181,19 +1181,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Plate Thickness</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Plate Thickness:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Plate thickness is required to calculate power requirements.</source>
+        <source>Plate Thickness</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Power</source>
+        <source>Plate thickness is required to calculate power requirements.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1214,6 +1210,10 @@
     </message>
     <message>
         <source>Power estimates based on increasing feedrate by %1 percent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1253,11 +1253,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Rim Width</source>
+        <source>Rim Width:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Rim Width:</source>
+        <source>Rim Width</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1265,11 +1265,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save</source>
+        <source>Save File.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save File.</source>
+        <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1285,7 +1285,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Seat</source>
+        <source>Seat Height:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1293,7 +1293,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Seat Height:</source>
+        <source>Seat Width:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1301,11 +1301,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Seat Width:</source>
+        <source>Seat:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Seat:</source>
+        <source>Seat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1397,10 +1397,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Teeth</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Teeth are required to calculate power requirements.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1409,11 +1405,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Teeth on Both Edges:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Teeth on Both Edges</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Teeth on Both Edges:</source>
+        <source>Teeth</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1449,19 +1449,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tip Clearance</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Tip Clearance:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tip Kerf</source>
+        <source>Tip Clearance</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Tip Kerf:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tip Kerf</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1493,11 +1493,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tooth Pitch</source>
+        <source>Tooth Pitch:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tooth Pitch:</source>
+        <source>Tooth Pitch</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1545,11 +1545,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Type of Wood</source>
+        <source>Type of Wood:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Type of Wood:</source>
+        <source>Type of Wood</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1569,11 +1569,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Variable Pitch</source>
+        <source>Variable Pitch:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Variable Pitch:</source>
+        <source>Variable Pitch</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1589,11 +1589,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Wheel Diameter</source>
+        <source>Wheel Diameter:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Wheel Diameter:</source>
+        <source>Wheel Diameter</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1601,11 +1601,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Wheel RPMs</source>
+        <source>Wheel RPMs:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Wheel RPMs:</source>
+        <source>Wheel RPMs</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1658,26 +1658,26 @@
 <context>
     <name>tarnwick::FieldPanel</name>
     <message>
-        <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::HelpFindBar</name>
     <message>
-        <source>Words to find on this page</source>
+        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1685,32 +1685,24 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Previous</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Not on this page.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words to find on this page</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::HelpSearchPane</name>
-    <message>
-        <source>Words to search for</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pages found</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>No page has these words.</source>
         <translation type="unfinished"></translation>
@@ -1719,51 +1711,19 @@
         <source>Pages found: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Pages found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::HelpWindow</name>
     <message>
-        <source>Tarnwick Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Forward</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Smaller</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>100 %</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usual size (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usual size</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Larger</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Contents of the manual</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1779,7 +1739,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Word to look up</source>
+        <source>100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents of the manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1787,13 +1763,37 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Page of the manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tarnwick Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The manual cannot be opened.
 
 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual size (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Word to look up</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1814,11 +1814,7 @@
 <context>
     <name>tarnwick::PrinterForm</name>
     <message>
-        <source>Printer:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Printer</source>
+        <source>&amp;Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1826,7 +1822,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
+        <source>Printer:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1837,7 +1837,11 @@
 <context>
     <name>tarnwick::QuestionWindow</name>
     <message>
-        <source>Picture of the measure</source>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1845,11 +1849,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
+        <source>Picture of the measure</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1863,19 +1863,19 @@
 <context>
     <name>tarnwick::fraDisplay</name>
     <message>
-        <source>Drawing of the band</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Arrow keys and page keys move the drawing. A rectangle pulled with the mouse is enlarged, the wheel zooms, the middle button drags.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Move along the band</source>
+        <source>Drawing of the band</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Move across the band</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move along the band</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1893,11 +1893,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Values of the band saw</source>
+        <source>Move the values</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Move the values</source>
+        <source>Values of the band saw</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1911,43 +1911,27 @@
 <context>
     <name>tarnwick::fraVariable</name>
     <message>
-        <source>Variable pitch</source>
+        <source>%1 Depth</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Segment</source>
+        <source>%1 Pitch</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pattern</source>
+        <source>&amp;Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Teeth</source>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Number Of Teeth:</source>
+        <source>&amp;Print</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Teeth in Segment:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Teeth in Segment</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Segments on Band:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Length of Segment:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pattern %1</source>
+        <source>&amp;Reset</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1979,15 +1963,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 Pitch</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 Depth</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Average:</source>
+        <source>Average Depth</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1995,11 +1971,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Average Depth</source>
+        <source>Average:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pitch</source>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2007,27 +1983,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Variable Depth</source>
+        <source>Length of Segment:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print the segment</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
+        <source>Number Of Teeth:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2035,22 +1995,62 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
+        <source>Pattern %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cancel</source>
+        <source>Pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the segment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Segments on Band:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teeth in Segment:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teeth in Segment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teeth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variable Depth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variable pitch</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmAbout</name>
     <message>
-        <source>About %1</source>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;OK</source>
+        <source>About %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2068,34 +2068,18 @@
 <context>
     <name>tarnwick::frmBDialog</name>
     <message>
-        <source>&amp;Yes</source>
+        <source>&amp;No</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;No</source>
+        <source>&amp;Yes</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmBandCalc</name>
     <message>
-        <source>Band Length Calculator</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture of the machine</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Machine</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Band Length</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Take %1</source>
+        <source>&amp;Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2107,29 +2091,45 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
+        <source>Band Length Calculator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Band Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture of the machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmCDialog</name>
     <message>
-        <source>Values to choose from</source>
+        <source>Value</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Value</source>
+        <source>Values to choose from</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmCfg</name>
     <message>
-        <source>Options</source>
+        <source>&amp;Apply</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Groups of options</source>
+        <source>&amp;Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2137,7 +2137,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Co&amp;lors</source>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2149,43 +2149,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>1 = thin, 20 = thick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Accuracy:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Number of Decimal Places Used For Calculations:</source>
+        <source>Address:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Decimal Places:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Number of Decimal Places Used For Displaying Values:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scaling Factors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Change to Alter Scaling Factor of Graphics to be Displayed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Units</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Imperial</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Metric</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bandsaw Information Window</source>
+        <source>Apply</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2193,11 +2169,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Saw Outline Color in View Windows:</source>
+        <source>Bandsaw Information Window</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Text Color in View Windows:</source>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2205,7 +2181,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Right Mouse Button Zoom Window Color:</source>
+        <source>Change to Alter Scaling Factor of Graphics to be Displayed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Co&amp;lors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color to save Dxf files with :</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2213,7 +2201,83 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Color to save Dxf files with :</source>
+        <source>Country:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal Places:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dxf File Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fax:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups of options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Include Power Requirements on Printout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large Files    (Slower)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move %1 sideways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move %1 up and down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of Decimal Places Used For Calculations:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of Decimal Places Used For Displaying Values:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Postal/Zip Code:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power Requirements</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2225,27 +2289,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Prov/State:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right Mouse Button Zoom Window Color:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sample of the line</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1 = thin, 20 = thick</source>
+        <source>Saw Outline Color in View Windows:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Use scroll bar to adjust line thickness.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Power Requirements</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Include Power Requirements on Printout</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dxf File Size</source>
+        <source>Scaling Factors</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2257,55 +2317,26 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Large Files    (Slower)</source>
+        <source>Text Color in View Windows:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Name:</source>
+        <source>Units</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Address:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>City:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Prov/State:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Country:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Postal/Zip Code:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Phone:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fax:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>E-mail:</source>
+        <source>Use scroll bar to adjust line thickness.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>User Information:</source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>tarnwick::frmColor</name>
     <message>
-        <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
+        <source>%1 %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2313,46 +2344,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move %1 sideways</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move %1 up and down</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>tarnwick::frmColor</name>
-    <message>
-        <source>By block</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cyan</source>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2360,39 +2352,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Magenta</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>White</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dark grey</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Light grey</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dxf Color</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
+        <source>By block</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2403,13 +2363,49 @@
         <source>Chosen: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Cyan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dxf Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::frmGauge</name>
-    <message>
-        <source>Plate Gauge</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>&amp;OK</source>
         <translation type="unfinished"></translation>
@@ -2418,31 +2414,23 @@
         <source>Gauges and their thickness</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Plate Gauge</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::frmMain</name>
     <message>
-        <source>&amp;Imperial</source>
+        <source>&amp;About</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Metric</source>
+        <source>&amp;Contents</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Status</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hint</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scale</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Time and date</source>
+        <source>&amp;Design</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2450,11 +2438,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;New</source>
+        <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ne&amp;w Step by Step</source>
+        <source>&amp;Imperial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Information Sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Metric</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2462,27 +2462,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save &amp;As</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Drawing to a Dxf File</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Information to a Text File</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print Outs to a Pdf File</source>
+        <source>&amp;Options</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2490,11 +2470,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>P&amp;rint Outs</source>
+        <source>&amp;Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Information Sheet</source>
+        <source>&amp;Search For Help On...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2506,11 +2490,119 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Band Length Calculator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calculator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction of Teeth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing to a Dxf File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>E&amp;xit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;View</source>
+        <source>Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General Information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Information to a Text File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Main Screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ne&amp;w Step by Step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Obtain Technical Help...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;rint Outs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plate Gauge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power Calculator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power Requirements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Outs to a Pdf File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ta&amp;bles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time and date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tooth Shape Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variable Pitch</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2526,10 +2618,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Last View</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Zoom In</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2537,103 +2625,19 @@
         <source>Zoom Out</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Direction of Teeth</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Left to Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Right to Left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Design</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Main Screen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>General Information</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tooth Shape Editor</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Variable Pitch</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Power Requirements</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ta&amp;bles</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Plate Gauge</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Band Length Calculator</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Power Calculator</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Calculator</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Search For Help On...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Obtain Technical Help...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Splash</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;About</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>tarnwick::frmPower</name>
     <message>
-        <source>Power Requirements</source>
+        <source>&amp;Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Power Requirements:</source>
+        <source>&amp;OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated Feed Rates:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2649,11 +2653,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Values based on the selected percent of the total gullet area.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Estimated Feed Rates:</source>
+        <source>Increase Feed Rate </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2665,11 +2665,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Increase Feed Rate </source>
+        <source>Power Requirements:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>View Results</source>
+        <source>Power Requirements</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2677,58 +2677,22 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;OK</source>
+        <source>Values based on the selected percent of the total gullet area.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
+        <source>View Results</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmPowerCalc</name>
     <message>
-        <source>Power Calculator</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 of the first calculation</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 of the second calculation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>First Power Calculation:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear the first calculation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Second Power Calculation:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear the second calculation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Gullet Feed Index:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Percentage of usable gullet:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>E&amp;xit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2744,11 +2708,47 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&amp;Save</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Print</source>
+        <source>Clear </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the first calculation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the second calculation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First Power Calculation:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gullet Feed Index:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percentage of usable gullet:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power Calculator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second Power Calculation:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2759,15 +2759,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Power Estimates</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Power estimates</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the estimates</source>
+        <source>&amp;OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2775,16 +2767,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;OK</source>
+        <source>Move the estimates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power Estimates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power estimates</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmPrintMsg</name>
-    <message>
-        <source>Printing</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Page %1 of %2</source>
         <translation type="unfinished"></translation>
@@ -2793,26 +2789,30 @@
         <source>Printing page %1 of %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Printing</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tarnwick::frmPrinter</name>
     <message>
-        <source>Choose Printer</source>
+        <source>&amp;Setup...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Setup...</source>
+        <source>Choose Printer</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>tarnwick::frmPrinterPage</name>
     <message>
-        <source>Choose Printer and Pages</source>
+        <source>Both Pages</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Print Quality (High)</source>
+        <source>Choose Printer and Pages</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2824,7 +2824,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Both Pages</source>
+        <source>Print Quality (High)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2843,11 +2843,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Version %1</source>
+        <source>Click or press a key to close.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Click or press a key to close.</source>
+        <source>Version %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
