@@ -21,6 +21,7 @@ INCH = 1440
 ROW, FIRST_ROW = 265, 2400  # of the information sheet
 COLUMN = 1100  # its first
 BLANK = 57  # ahead of a value
+AHEAD = 1400  # of the date stands the number of a sheet of a segment
 LEFT, RIGHT = INCH // 2, 15 * INCH // 2  # of the frame of a drawing on paper that stands upright
 BAND = LEFT + INCH // 4  # where the band begins
 MIDDLE = 10160  # of the gullets
@@ -100,7 +101,7 @@ class Printing(ReadDesk):
         found = [day for day in days if f"{day:%b}, {day.day}/{day:%y}" in paper.text(page)]
         self.assertTrue(found, paper.text(page))
         self.expect_at(paper, f"{found[0]:%b}, {found[0].day}/{found[0]:%y}", date_at, 2.5 * ROW, page)
-        self.expect_at(paper, label, date_at - 4000 if label.startswith("Pg") else COLUMN, 2.5 * ROW, page)
+        self.expect_at(paper, label, date_at - AHEAD if label.startswith("Pg") else COLUMN, 2.5 * ROW, page)
 
     def expect_rows(self, paper, rows, page=1, column=COLUMN):
         """A heading and the rows below it, each in its place."""
@@ -179,8 +180,7 @@ class Printing(ReadDesk):
         self.front(HEAD)
 
         # From the panel, which stays.
-        self.click(HEAD, "Variable Pitch")
-        until(lambda: self.reader.showing("push button", "Print the segment"), "the panel")
+        self.click_until(HEAD, "Variable Pitch", lambda: self.reader.showing("push button", "Print the segment"))
         self.press(HEAD, "Print the segment")
         self.accept(PRINTER)
         self.press(SEGMENT, "Yes")

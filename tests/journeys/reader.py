@@ -119,11 +119,15 @@ class ReadDesk(Desk):
         self.reader.click(found)
         return found
 
-    def press(self, title, name):
-        """Clicks on a button that opens or closes a window; again when a busy desktop has lost the click."""
+    def click_until(self, title, name, condition, role="push button"):
+        """The same, and again when it has come in a pause, in which clicks are dropped."""
+        node = self.click(title, name, role)
+        until(condition, f"what {name!r} does", lambda: self.reader.shows(node) and self.reader.click(node))
+
+    def press(self, title, name, role="push button"):
+        """Clicks on what opens or closes a window."""
         before = self.front(title)
-        node = self.click(title, name)
-        until(lambda: self.screen.active() not in ("", before), f"what {name!r} does", lambda: self.reader.click(node))
+        self.click_until(title, name, lambda: self.screen.active() not in ("", before), role)
 
     def words_of(self, title):
         """What a box says."""
@@ -131,12 +135,12 @@ class ReadDesk(Desk):
 
     def tick(self, title, name, role="check box"):
         """Sets a check box or an option button."""
-        node = self.click(title, name, role)
-        until(lambda: self.reader.is_checked(node), f"{name!r} ticked")
+        node = self.reader.wait_for(role, name, self.window(title))
+        self.click_until(title, name, lambda: self.reader.is_checked(node), role)
 
     def asked(self, title, name, question, text, role="text"):
         """Clicks on what asks a question, and answers that."""
-        self.click(title, name, role)
+        self.press(title, name, role)
         self.front(question)
         self.screen.type(text)
         self.answer(question, "Return")
