@@ -10,10 +10,12 @@
 #include <algorithm>
 
 #include "platform/qt/DrawingSurface.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/HintLine.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/MeasureGrid.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/QtText.h"
 
 namespace tarnwick {
@@ -21,10 +23,6 @@ namespace {
 
 constexpr int Topic = 510;
 constexpr double TitleScale = 1.4;  // of the window's font
-constexpr int RowGap = 3;
-constexpr int CaptionGap = 8;
-
-QString Spoken(QString caption) { return caption.remove(':'); }
 
 QString ArrayName(const char* array, int index) { return QString("%1(%2)").arg(array).arg(index); }
 
@@ -54,8 +52,7 @@ class PictureFrame final : public QWidget {
 
 frmBandCalc::frmBandCalc(BandCalculator& calculator, HelpViewer& help, QWidget* parent)
     : FormWindow("frmBandCalc", tr("Band Length Calculator"), Topic, help, parent), calculator_(calculator) {
-  auto* lblTitle = new QLabel(tr("Band Length Calculator"));
-  lblTitle->setObjectName("lblTitle");
+  QLabel* lblTitle = MakeLabel("lblTitle", tr("Band Length Calculator"));
   QFont large = lblTitle->font();
   large.setPointSizeF(large.pointSizeF() * TitleScale);
   large.setBold(true);
@@ -112,7 +109,7 @@ QGroupBox* frmBandCalc::MakeLengths() {
   auto* frame = new QGroupBox(tr("Band Length"));
   auto* grid = new QGridLayout(frame);
   grids_.push_back(grid);
-  grid->setHorizontalSpacing(CaptionGap);
+  grid->setHorizontalSpacing(Gap);
   grid->setVerticalSpacing(RowGap);
   grid->setColumnStretch(1, 1);
   for (int row = OwnLength; row < LengthRows; ++row) {

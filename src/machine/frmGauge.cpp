@@ -12,6 +12,7 @@
 #include "machine/modGaugeDraw.h"
 #include "platform/qt/DrawingSurface.h"
 #include "platform/qt/Language.h"
+#include "platform/qt/NamedControls.h"
 
 namespace tarnwick {
 namespace {

@@ -12,8 +12,10 @@
 #include <utility>
 
 #include "platform/qt/FeedIndexList.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/MeasureGrid.h"
+#include "platform/qt/NamedControls.h"
 #include "shell/modString.h"
 
 namespace tarnwick {
@@ -84,10 +86,9 @@ QGroupBox* frmPower::MakeGulletCapacity() {
     editor_.SelectFeedIndex(static_cast<std::size_t>(entry));
     ShowState();
   });
-  auto* note = new QLabel(tr("Values based on the selected percent of the total gullet area."));
+  QLabel* note =
+      MakeLabel("lblFeedIndex", tr("Values based on the selected percent of the total gullet area."));
   note->setBuddy(cboFeedIndex_);
-  note->setObjectName("lblFeedIndex");
-  note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);
 
   auto* grid = new MeasureGrid;
@@ -116,9 +117,7 @@ QGroupBox* frmPower::MakeEstimates(std::function<void()> print) {
   cboPercent_->installEventFilter(this);
   connect(cboPercent_, &QComboBox::editTextChanged, this,
           [this](const QString& text) { editor_.TypePercent(text.toStdString()); });
-  auto* caption = new QLabel(tr("Increase Feed Rate "));
-  caption->setObjectName("lblPercent");
-  caption->setTextFormat(Qt::PlainText);
+  QLabel* caption = MakeLabel("lblPercent", tr("Increase Feed Rate "));
   caption->setBuddy(cboPercent_);
 
   auto* row = new QHBoxLayout(frame);

@@ -10,16 +10,18 @@
 #include <utility>
 
 #include "platform/qt/FeedIndexList.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/MeasureGrid.h"
+#include "platform/qt/NamedControls.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr int Topic = 430;
-constexpr int RowGap = 2;      // seventeen rows, on the smallest screen too
-constexpr int ButtonAir = 24;  // beside a caption, both sides
-constexpr int FrameGap = 4;    // above and below what is in a frame
+constexpr int TightRowGap = 2;  // seventeen rows, on the smallest screen too
+constexpr int ButtonAir = 24;   // beside a caption, both sides
+constexpr int FrameGap = 4;     // above and below what is in a frame
 
 /// All as wide as the longest caption asks for: six of the usual width are too many for the smallest screen.
 void MakeSlim(const QList<QPushButton*>& buttons) {
@@ -71,7 +73,7 @@ QGroupBox* frmPowerCalc::MakeSide(std::size_t side, const QString& caption, cons
   auto* frame = new QGroupBox(caption);
   frame->setObjectName("fraPowerCalc" + Suffix(side));
   auto* grid = new MeasureGrid;
-  grid->setVerticalSpacing(RowGap);
+  grid->setVerticalSpacing(TightRowGap);
   boxes_[side].AddTo(
       *grid, {HPSawOD, Centers, Length, ToothPitch, NumTeeth, HPPlateThick, HPToothWidth, SideClearance, RPMs,
               SawVelocity, MaxDepth, FeedRate, SpecificEnergy, Bite, HPGulletArea, Capacity, HorsePower});
@@ -93,10 +95,8 @@ QGroupBox* frmPowerCalc::MakeFeedIndex() {
   auto* frame = new QGroupBox(tr("Gullet Feed Index:"));
   frame->setObjectName("fraFeedIndex");
   const QString caption = tr("Percentage of usable gullet:");
-  auto* label = new QLabel(caption);
-  label->setObjectName("lblFeedIndex");
-  label->setTextFormat(Qt::PlainText);
-  cboFeedIndex_ = new FeedIndexList(QString(caption).remove(':'));
+  QLabel* label = MakeLabel("lblFeedIndex", caption);
+  cboFeedIndex_ = new FeedIndexList(Spoken(caption));
   label->setBuddy(cboFeedIndex_);
   connect(cboFeedIndex_, &FeedIndexList::activated, this, [this](int entry) {
     calculator_.SelectFeedIndex(static_cast<std::size_t>(entry));

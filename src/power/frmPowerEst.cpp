@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
+#include "platform/qt/NamedControls.h"
 
 namespace tarnwick {
 namespace {
@@ -138,18 +140,12 @@ QString SpokenLine(const PowerLine& line) {
 frmPowerEst::frmPowerEst(PowerEstimateList& estimates, HelpViewer& help, std::function<void()> print,
                          QWidget* parent)
     : FormWindow("frmPowerEst", tr("Power Estimates"), Topic, help, parent), estimates_(estimates) {
-  const auto caption = [](const char* name, std::string_view text) {
-    auto* label = new QLabel(Translated(text));
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-  };
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(Margin, Margin, Margin, Margin);
   column->setSpacing(Gap);
-  column->addWidget(caption("lblHeading", estimates_.Heading()));
+  column->addWidget(MakeLabel("lblHeading", Translated(estimates_.Heading())));
   column->addWidget(MakeLines(), 1);
-  column->addWidget(caption("lblNote", PowerEstimateList::Note()));
+  column->addWidget(MakeLabel("lblNote", Translated(PowerEstimateList::Note())));
   column->addLayout(MakeFoot(std::move(print)));
   DisplayPowerSets();
   picPowerEst_->setFocus();

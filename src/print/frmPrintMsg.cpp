@@ -11,6 +11,7 @@
 
 #include "platform/qt/CenterForm.h"
 #include "platform/qt/LineIcon.h"
+#include "platform/qt/NamedControls.h"
 
 namespace tarnwick {
 namespace {
@@ -20,13 +21,6 @@ constexpr int Gap = 2;
 constexpr int IconSize = 48;
 constexpr int LettersShown = 24;
 constexpr int MostWait = 1000;  // ms; some desktops never show a window while the program is busy
-
-QLabel* MakeLabel(const char* name, const QString& text) {
-  auto* label = new QLabel(text);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
 
 QLabel* MakeIcon(const QWidget& window) {
   auto* icon = new QLabel;

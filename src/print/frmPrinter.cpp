@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "platform/qt/Gaps.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/QtText.h"
 
 namespace tarnwick {
@@ -31,8 +33,7 @@ QCheckBox* PrinterForm::MakeTick(const char* name, const QString& caption) {
 }
 
 QBoxLayout* PrinterForm::MakePrinters() {
-  auto* label = new QLabel(tr("Printer:"));
-  label->setObjectName("Label1");
+  QLabel* label = MakeLabel("Label1", tr("Printer:"));
   cboPrinters_ = new QComboBox;
   cboPrinters_->setObjectName("cboPrinters");
   cboPrinters_->setAccessibleName(tr("Printer"));

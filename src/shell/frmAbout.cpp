@@ -9,13 +9,14 @@
 
 #include "platform/qt/BandPicture.h"
 #include "platform/qt/CenterForm.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
+#include "platform/qt/NamedControls.h"
 #include "shell/modAbout.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int Margin = 12;
 constexpr int TextGap = 20;  // around the text
 
 }  // namespace
@@ -27,14 +28,10 @@ frmAbout::frmAbout(HelpViewer& help, QWidget* parent) : QDialog(parent) {
 
   auto* picture = new BandPicture(this);
   picture->setObjectName("PicAbout");
-  auto* lblAbout = new QLabel(Translated(AboutText()), this);
-  lblAbout->setObjectName("lblAbout");
-  lblAbout->setTextFormat(Qt::PlainText);
+  QLabel* lblAbout = MakeLabel("lblAbout", Translated(AboutText()));
   lblAbout->setAccessibleName(lblAbout->text().simplified());
   lblAbout->setContentsMargins(TextGap, TextGap, TextGap, TextGap - Margin);
-  auto* cmdOk = new QPushButton(tr("&OK"), this);
-  cmdOk->setObjectName("cmdOk");
-  cmdOk->setAccessibleName(tr("OK"));
+  QPushButton* cmdOk = MakeButton("cmdOk", tr("&OK"));
   cmdOk->setDefault(true);
   connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,

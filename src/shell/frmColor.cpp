@@ -14,12 +14,12 @@
 
 #include "platform/qt/CenterForm.h"
 #include "platform/qt/ColourSwatch.h"
+#include "platform/qt/Gaps.h"
+#include "platform/qt/NamedControls.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int Margin = 12;
-constexpr int Gap = 8;
 constexpr int Columns = 5;
 constexpr int MarkHeight = 3;  // of the bar below the marked sample
 
@@ -82,17 +82,13 @@ QLayout* frmColor::MakeSamples() {
 }
 
 QLayout* frmColor::MakeButtons() {
-  auto* cmdOk = new QPushButton(tr("&OK"), this);
-  cmdOk->setObjectName("cmdOk");
-  cmdOk->setAccessibleName(tr("OK"));
+  QPushButton* cmdOk = MakeButton("cmdOk", tr("&OK"));
   cmdOk->setDefault(true);
   connect(cmdOk, &QPushButton::clicked, this, [this] {
     choice_.PressOk();
     accept();
   });
-  auto* cmdCancel = new QPushButton(tr("&Cancel"), this);
-  cmdCancel->setObjectName("cmdCancel");
-  cmdCancel->setAccessibleName(tr("Cancel"));
+  QPushButton* cmdCancel = MakeButton("cmdCancel", tr("&Cancel"));
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
   auto* row = new QHBoxLayout;

@@ -12,6 +12,7 @@
 #include "platform/qt/BandPicture.h"
 #include "platform/qt/CenterForm.h"
 #include "platform/qt/Language.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/QtText.h"
 #include "shell/modAbout.h"
 #include "version.h"
@@ -50,10 +51,8 @@ frmSplash::frmSplash(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::Framele
 }
 
 void frmSplash::AddLine(const char* name, const QString& text, double size, const QColor& ink) {
-  auto* line = new QLabel(text, this);
-  line->setObjectName(name);
+  QLabel* line = MakeLabel(name, text);
   line->setAccessibleName(text);
-  line->setTextFormat(Qt::PlainText);
   QFont letters = line->font();
   letters.setPointSizeF(letters.pointSizeF() * size);
   line->setFont(letters);

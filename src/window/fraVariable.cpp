@@ -11,8 +11,10 @@
 #include <QWheelEvent>
 
 #include "platform/qt/Caption.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/QtText.h"
 #include "variable/modSegmentHint.h"
@@ -20,8 +22,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int RowGap = 3;
-constexpr int ColumnGap = 8;
 constexpr int CaptionColumn = 0, BoxColumn = 1;
 constexpr int PitchColumn = 1, DepthColumn = 2;
 constexpr double BoxShare = 0.46;    // of the least width, for a box that stands alone
@@ -40,8 +40,6 @@ class StillList final : public QComboBox {
 
 QString Indexed(const char* name, int k) { return QString("%1(%2)").arg(name).arg(k); }
 
-QString Spoken(QString caption) { return caption.remove(':'); }
-
 void Write(MeasureBox* box, const std::string& shown) {
   const QString text = ToQt(shown);
   if (box->text() == text) return;
@@ -51,7 +49,7 @@ void Write(MeasureBox* box, const std::string& shown) {
 
 QGridLayout* MakeGrid() {
   auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(ColumnGap);
+  grid->setHorizontalSpacing(Gap);
   grid->setVerticalSpacing(RowGap);
   grid->setColumnStretch(CaptionColumn, 1);
   return grid;
@@ -72,7 +70,7 @@ fraVariable::fraVariable(QWidget* parent) : PanelFrame(parent) {
   column->addWidget(MakeHeading(tr("Teeth")));
   column->addWidget(MakeVarDepth());
   column->addLayout(MakeTeeth());
-  column->addSpacing(ColumnGap);
+  column->addSpacing(Gap);
   column->addWidget(MakePrint(), 0, Qt::AlignRight);
   column->addStretch(1);
   MakeFoot();
@@ -100,10 +98,7 @@ MeasureBox* fraVariable::MakeBox(const QString& name, const QString& spoken, boo
 }
 
 void fraVariable::AddCaption(QGridLayout* grid, const QString& text) {
-  auto* caption = new QLabel(text, Page());
-  caption->setTextFormat(Qt::PlainText);
-  caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  grid->addWidget(caption, grid->rowCount(), CaptionColumn);
+  grid->addWidget(new Caption(text, Page()), grid->rowCount(), CaptionColumn);
 }
 
 MeasureBox* fraVariable::AddCount(QGridLayout* grid, const char* name, const QString& caption) {
@@ -131,7 +126,7 @@ QWidget* fraVariable::MakePatterns() {
   auto* patterns = new QWidget(Page());
   auto* grid = new QGridLayout(patterns);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(ColumnGap);
+  grid->setHorizontalSpacing(Gap);
   grid->setVerticalSpacing(RowGap);
   for (int index = 0; index < Patterns; ++index) {
     const QString caption = Translated(PatternName(index));

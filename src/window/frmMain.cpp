@@ -15,6 +15,7 @@
 #include <chrono>
 
 #include "platform/qt/Language.h"
+#include "platform/qt/NamedControls.h"
 #include "shell/frmAnime.h"
 #include "shell/modString.h"
 #include "shell/modTimeDate.h"
@@ -113,7 +114,7 @@ QWidget* frmMain::MakeUnits() {
   const auto add = [&](const char* name, const QString& caption, int hint) {
     auto* option = new QRadioButton(caption, units);
     option->setObjectName(name);
-    option->setAccessibleName(QString(caption).remove('&'));
+    option->setAccessibleName(Spoken(caption));
     option->setAccessibleDescription(Translated(NumberedText(hint)));
     option->installEventFilter(this);
     row->addWidget(option);

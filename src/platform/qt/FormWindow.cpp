@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QKeySequence>
 #include <QLayout>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -12,6 +11,7 @@
 
 #include "platform/qt/BoxArea.h"
 #include "platform/qt/CenterForm.h"
+#include "platform/qt/Gaps.h"
 
 namespace tarnwick {
 namespace {
@@ -67,13 +67,6 @@ void FormWindow::Arrange(QLayout* boxes, QLayout* foot) {
   column->addWidget(area_, 1);
   column->addLayout(foot);
   for (QComboBox* list : findChildren<QComboBox*>()) new WheelPassedOn(list);
-}
-
-QPushButton* FormWindow::MakeButton(const char* name, const QString& caption) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
-  button->setAccessibleName(QString(caption).remove('&').trimmed());
-  return button;
 }
 
 /// Lays the rows that are too wide out anew. What is not seen yet does not ask for its new size by itself,

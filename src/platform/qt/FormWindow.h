@@ -8,7 +8,6 @@
 
 class QBoxLayout;
 class QLayout;
-class QPushButton;
 class QScrollArea;
 
 namespace tarnwick {
@@ -30,14 +29,8 @@ class FormWindow : public QDialog {
   /// Puts the parts in their places; `boxes` and `foot` have been filled.
   void Arrange(QLayout* boxes, QLayout* foot);
 
-  /// A button, spoken as it is written.
-  [[nodiscard]] static QPushButton* MakeButton(const char* name, const QString& caption);
-
   /// A row whose parts may be laid one below the other.
   void MayStack(QBoxLayout* row) { rows_.push_back(row); }
-
-  static constexpr int Margin = 12;
-  static constexpr int Gap = 8;  // between neighbours
 
  private:
   void ShowHelp();

@@ -1,20 +1,18 @@
 #include "platform/qt/MeasureGrid.h"
 
 #include "platform/qt/Caption.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/MeasureBox.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int RowGap = 3;
-constexpr int CaptionGap = 8;  // between a caption and its box
-constexpr int GroupGap = 12;
 constexpr int CaptionColumn = 0, BoxColumn = 1;
 
 }  // namespace
 
 MeasureGrid::MeasureGrid(QWidget* frame) : QGridLayout(frame) {
-  setHorizontalSpacing(CaptionGap);
+  setHorizontalSpacing(Gap);
   setVerticalSpacing(RowGap);
   setColumnStretch(BoxColumn, 1);
 }
@@ -35,6 +33,6 @@ MeasureBox* MeasureGrid::AddBox(const QString& name, const QString& caption, con
   return box;
 }
 
-void MeasureGrid::AddGap() { setRowMinimumHeight(rowCount(), GroupGap); }
+void MeasureGrid::AddGap() { setRowMinimumHeight(rowCount(), Margin); }
 
 }  // namespace tarnwick

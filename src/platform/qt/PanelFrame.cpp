@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/TabStep.h"
@@ -18,7 +19,6 @@ namespace tarnwick {
 namespace {
 
 constexpr int HeadingGap = 10;  // above a heading
-constexpr int FootGap = 8;
 
 }  // namespace
 
@@ -36,7 +36,7 @@ PanelFrame::PanelFrame(QWidget* parent) : QWidget(parent) {
   edge->setFrameStyle(QFrame::HLine | QFrame::Plain);
   edge->setForegroundRole(QPalette::Mid);
   foot_ = new QHBoxLayout;
-  foot_->setSpacing(FootGap);
+  foot_->setSpacing(Gap);
   foot_->addStretch();
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -52,7 +52,7 @@ void PanelFrame::SetFrameWidth(int panel) {
   const int bar = area_->verticalScrollBar()->sizeHint().width();  // shown or not, nothing moves
   setFixedWidth(panel);
   page_->setFixedWidth(panel - bar);
-  foot_->setContentsMargins(PanelMargin, FootGap, PanelMargin + bar, FootGap);
+  foot_->setContentsMargins(PanelMargin, Gap, PanelMargin + bar, Gap);
 }
 
 QPushButton* PanelFrame::AddButton(const char* name, const QString& caption, const QString& spoken, int hint,

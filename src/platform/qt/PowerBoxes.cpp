@@ -8,6 +8,7 @@
 #include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
 #include "platform/qt/MeasureGrid.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/QtText.h"
 #include "power/modWood.h"
 
@@ -67,9 +68,8 @@ void PowerBoxes::Add(MeasureGrid& grid, const PowerBoxRow& row) {
 }
 
 QString PowerBoxes::SpokenOf(const PowerBoxRow& row) const {
-  QString caption = Translated(row.Caption).trimmed();
-  caption.remove(':');
-  if (!row.Frame.empty()) caption = Translated(row.Frame).remove(':') + ", " + caption;
+  QString caption = Spoken(Translated(row.Caption));
+  if (!row.Frame.empty()) caption = Spoken(Translated(row.Frame)) + ", " + caption;
   return side_.Spoken.arg(caption);
 }
 

@@ -9,14 +9,13 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/CenterForm.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/PictureBox.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int Margin = 12;
-constexpr int Gap = 8;      // between neighbours
 constexpr int FootGap = 8;  // below the line of hints
 
 }  // namespace

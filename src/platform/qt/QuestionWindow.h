@@ -7,6 +7,7 @@
 
 #include "platform/HelpViewer.h"
 #include "platform/qt/HintLine.h"
+#include "platform/qt/NamedControls.h"
 
 class QLabel;
 class QLayout;
@@ -34,10 +35,10 @@ class QuestionWindow : public QDialog {
 
   /// A button or an option, spoken as it is written.
   template <class Button>
-  Button* AddButton(const char* name, QString caption) {
+  Button* AddButton(const char* name, const QString& caption) {
     auto* button = new Button(caption, this);
     button->setObjectName(name);
-    button->setAccessibleName(caption.remove('&'));  // which marks the access key
+    button->setAccessibleName(Spoken(caption));
     return button;
   }
 

@@ -15,6 +15,7 @@
 
 #include "platform/qt/Language.h"
 #include "platform/qt/LineIcon.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/QtText.h"
 #include "shell/modString.h"
 #include "shell/modToolCommands.h"
@@ -23,9 +24,6 @@ namespace tarnwick {
 namespace {
 
 constexpr int IconSide = 24;
-
-/// A caption without the mark of its access key.
-QString Spoken(QString caption) { return caption.remove('&'); }
 
 /// Looks and sounds as its command does at the moment.
 class Button final : public QToolButton {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+class QLabel;
+class QPushButton;
+
+namespace tarnwick {
+
+/// A caption for those who listen: without the mark of its access key, its colon and the blanks about it.
+[[nodiscard]] QString Spoken(QString caption);
+
+/// A button, spoken as it is written.
+[[nodiscard]] QPushButton* MakeButton(const char* name, const QString& caption);
+
+/// A text that is shown as it stands, whatever it looks like.
+[[nodiscard]] QLabel* MakeLabel(const char* name, const QString& text);
+
+}  // namespace tarnwick
