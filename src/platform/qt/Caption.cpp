@@ -21,9 +21,13 @@ void Caption::paintEvent(QPaintEvent*) {
                         isEnabled(), text(), foregroundRole());
 }
 
+BoxCaption::BoxCaption(const QString& text, QWidget* box, QWidget* parent)
+    : Caption(text, parent), box_(box) {}
+
 BoxCaption::BoxCaption(const QString& text, MeasureBox* box, QWidget* parent)
-    : Caption(text, parent), box_(box) {
+    : BoxCaption(text, static_cast<QWidget*>(box), parent) {
   setCursor(Qt::PointingHandCursor);
+  connect(this, &BoxCaption::Pressed, box, &MeasureBox::Pressed);
 }
 
 void BoxCaption::mousePressEvent(QMouseEvent* event) {
@@ -36,7 +40,7 @@ void BoxCaption::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(eve
 /// Answered only now that the button is up: a dialog would take the release for its own.
 void BoxCaption::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !std::exchange(held_, false)) return;
-  if (rect().contains(event->position().toPoint())) emit box_->Pressed();
+  if (rect().contains(event->position().toPoint())) emit Pressed();
 }
 
 }  // namespace tarnwick

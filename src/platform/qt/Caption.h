@@ -16,11 +16,18 @@ class Caption : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// A caption that is pressed like its box.
+/// A caption that leads into its box.
 class BoxCaption final : public Caption {
+  Q_OBJECT
+
  public:
-  /// @param box  outlives the caption
+  /// @param box  gets the focus; outlives the caption
+  BoxCaption(const QString& text, QWidget* box, QWidget* parent = nullptr);
+  /// One that is pressed like its box.
   BoxCaption(const QString& text, MeasureBox* box, QWidget* parent = nullptr);
+
+ signals:
+  void Pressed();
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -28,7 +35,7 @@ class BoxCaption final : public Caption {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  MeasureBox* box_;
+  QWidget* box_;
   bool held_ = false;
 };
 

@@ -1,17 +1,18 @@
 #include "platform/qt/FieldPanel.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/Caption.h"
+#include "platform/qt/Gaps.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/MeasureBox.h"
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/PanelWidth.h"
 #include "platform/qt/QtText.h"
 #include "shell/modString.h"
@@ -19,12 +20,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr int RowGap = 3;
-constexpr int CaptionGap = 8;  // between a caption and its box
 constexpr int CaptionColumn = 0, BoxColumn = 1;
 constexpr double BoxShare = 0.46;  // of the least width
-
-QString Spoken(QString caption) { return caption.remove(':'); }
 
 /// "txtLength" has the caption "lblLength".
 QString CaptionName(std::string_view control) { return "lbl" + ToQt(control.substr(3)); }
@@ -60,7 +57,7 @@ FieldPanel::~FieldPanel() { EndWatching(); }
 void FieldPanel::MakePage(std::span<const PanelField> fields) {
   auto* grid = new QGridLayout(Page());
   grid->setContentsMargins(PanelMargin, 0, PanelMargin, PanelMargin);
-  grid->setHorizontalSpacing(CaptionGap);
+  grid->setHorizontalSpacing(Gap);
   grid->setVerticalSpacing(RowGap);
   grid->setColumnStretch(CaptionColumn, 1);
   lines_.reserve(fields.size());
@@ -84,7 +81,8 @@ void FieldPanel::MakeFoot(Button ok, Button cancel) {
 void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
   const int row = grid->rowCount();
   const bool isTicked = field.Act == BoxAct::Tick;
-  Line line{&field, isTicked ? nullptr : MakeCaption(field), MakeBox(field)};
+  Line line{&field, nullptr, MakeBox(field)};
+  if (!isTicked) line.Caption = MakeCaption(field, line.Box);
   line.Box->setObjectName(ToQt(field.Control));
   line.Box->setAccessibleName(Spoken(Translated(field.Caption)));
   line.Box->setAccessibleDescription(SpokenHint(field));
@@ -94,23 +92,24 @@ void FieldPanel::AddLine(QGridLayout* grid, const PanelField& field) {
   lines_.push_back(line);
 }
 
-QLabel* FieldPanel::MakeCaption(const PanelField& field) {
-  auto* caption = new QLabel(Translated(field.Caption), Page());
+QLabel* FieldPanel::MakeCaption(const PanelField& field, QWidget* box) {
+  const QString text = Translated(field.Caption);
+  auto* measure = qobject_cast<MeasureBox*>(box);
+  auto* caption = measure ? new BoxCaption(text, measure) : new BoxCaption(text, box);
   caption->setObjectName(CaptionName(field.Control));
-  caption->setTextFormat(Qt::PlainText);
-  caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  if (!OpensSomething(field)) caption->unsetCursor();
   Watch(caption);
   return caption;
 }
 
 QWidget* FieldPanel::MakeBox(const PanelField& field) {
   if (field.Act == BoxAct::Tick) {
-    auto* box = new QCheckBox(Translated(field.Caption), Page());
+    auto* box = new QCheckBox(Translated(field.Caption));
     connect(box, &QCheckBox::clicked, this, &FieldPanel::Ticked);
     return box;
   }
   if (field.Act == BoxAct::Type) {
-    auto* box = new QLineEdit(Page());
+    auto* box = new QLineEdit;
     box->setMaxLength(field.MostCharacters);
     box->setTextMargins(fontMetrics().horizontalAdvance(' '), 0, 0,
                         0);  // as the measures, with a blank ahead
@@ -119,7 +118,7 @@ QWidget* FieldPanel::MakeBox(const PanelField& field) {
     connect(box, &QLineEdit::editingFinished, this, &FieldPanel::TypingEnded);
     return box;
   }
-  auto* box = new MeasureBox(Page());
+  auto* box = new MeasureBox;
   box->SetOpens(OpensSomething(field));
   connect(box, &MeasureBox::Pressed, this, [this, &field] { emit Pressed(field); });
   return box;
@@ -192,29 +191,10 @@ const FieldPanel::Line* FieldPanel::LineOf(const QObject* control) const {
   return found == lines_.end() ? nullptr : &*found;
 }
 
-bool FieldPanel::eventFilter(QObject* watched, QEvent* event) {
-  if (const Line* line = LineOf(watched); line && line->Caption == watched) PressCaption(*line, event);
-  return PanelFrame::eventFilter(watched, event);
-}
-
 void FieldPanel::TellHover(const QObject* control, bool isOver) {
   if (const Line* line = LineOf(control)) emit Hovered(isOver ? line->Field : nullptr);
   for (const Foot& button : buttons_) {
     if (button.Pressed == control) emit ButtonHovered(isOver ? button.Hint : 0);
-  }
-}
-
-/// A caption is pressed like its box; that of a text leads into it.
-void FieldPanel::PressCaption(const Line& line, QEvent* event) {
-  if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease) return;
-  const auto* mouse = static_cast<QMouseEvent*>(event);
-  if (mouse->button() != Qt::LeftButton) return;
-  if (event->type() == QEvent::MouseButtonPress) {
-    held_ = line.Caption;
-    line.Box->setFocus(Qt::MouseFocusReason);
-  } else if (std::exchange(held_, nullptr) == line.Caption && line.Field->Act != BoxAct::Type &&
-             line.Caption->rect().contains(mouse->position().toPoint())) {
-    emit Pressed(*line.Field);
   }
 }
 

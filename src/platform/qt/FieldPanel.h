@@ -49,8 +49,6 @@ class FieldPanel : public PanelFrame {
   void FillBoxes(const BandSaw& saw, const DisplayFormat& format);
   void ShowState(const PanelField& field, BoxState state);
 
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   struct Line {
     const PanelField* Field;
@@ -64,7 +62,7 @@ class FieldPanel : public PanelFrame {
   };
 
   void AddLine(QGridLayout* grid, const PanelField& field);
-  [[nodiscard]] QLabel* MakeCaption(const PanelField& field);
+  [[nodiscard]] QLabel* MakeCaption(const PanelField& field, QWidget* box);
   [[nodiscard]] QWidget* MakeBox(const PanelField& field);
   void MakePage(std::span<const PanelField> fields);
   void MakeFoot(Button ok, Button cancel);
@@ -72,11 +70,9 @@ class FieldPanel : public PanelFrame {
   [[nodiscard]] bool KeepsZero(const Line& line, const BandSaw& saw, const DisplayFormat& format) const;
   [[nodiscard]] const Line* LineOf(const QObject* control) const;
   void TellHover(const QObject* control, bool isOver) override;
-  void PressCaption(const Line& line, QEvent* event);
 
   std::vector<Line> lines_;
   std::vector<Foot> buttons_;
-  QLabel* held_ = nullptr;  // the caption that the left button was pressed on
 };
 
 }  // namespace tarnwick
