@@ -13,9 +13,8 @@ class frmAnime final : public QWidget {
   Q_OBJECT
 
  public:
-  /// @param place  where it plays: a widget in a window; it does not repaint meanwhile, unless it gets
-  /// another
-  ///               size
+  /// @param place  where it plays: a widget in a window; it does not repaint meanwhile, unless its
+  ///               size changes
   frmAnime(QWidget& place, Clock& clock);
   ~frmAnime() override;
 
