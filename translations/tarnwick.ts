@@ -2053,10 +2053,6 @@
         <source>About %1</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>OK</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>tarnwick::frmAnime</name>
@@ -2161,19 +2157,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Apply</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Background Color of View Windows:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Bandsaw Information Window</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2258,10 +2246,6 @@
     </message>
     <message>
         <source>Number of Decimal Places Used For Displaying Values:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2356,10 +2340,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Chosen: %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2385,10 +2365,6 @@
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
