@@ -6,11 +6,13 @@ import sys
 from html import unescape
 from pathlib import Path
 
-from screen import Picture
+from reader import ReadDesk
+from screen import Picture, until
 
 sys.path.append(str(Path(__file__).resolve().parents[1] / "support"))
 from private_printers import Printers  # noqa: E402
 
+INCH = 1440
 TWIPS = 20  # in a point
 PIXEL = 10  # twips, of a sheet that is looked at
 LETTER = (12240, 15840)
@@ -47,7 +49,32 @@ class Paper:
 
     def drawn(self, left, top, right, bottom, page=1):
         """The left, top, right and bottom of all that is black in a part of a page."""
-        part = output_of("pdftoppm", "-aaVector", "no", "-r", 1440 // PIXEL, "-f", page, "-l", page, "-x", left // PIXEL, "-y",
-                         top // PIXEL, "-W", (right - left) // PIXEL, "-H", (bottom - top) // PIXEL, self.path)
+        window = ("-x", left // PIXEL, "-y", top // PIXEL, "-W", (right - left) // PIXEL, "-H", (bottom - top) // PIXEL)
+        part = output_of("pdftoppm", "-aaVector", "no", "-r", INCH // PIXEL, "-f", page, "-l", page, *window, self.path)
         dark = Picture(part).dark()
         return dark and tuple(at + PIXEL * pixel for at, pixel in zip((left, top, left, top), dark))
+
+
+class PrintDesk(ReadDesk):
+    """A desk with the printers Alpha and Beta, which nobody else sees."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.printers = Printers()
+        cls.addClassCleanup(cls.printers.close)
+
+    def setUp(self):
+        super().setUp()
+        self.screen.environment["CUPS_SERVER"] = str(self.printers.address)
+        self.printed = self.printers.printed()
+
+    def new_jobs(self):
+        return [path for path in self.printers.printed() if path not in self.printed]
+
+    def next_job(self):
+        """The file of the only job since the last one."""
+        path = until(self.new_jobs, "something printed")[0]
+        self.assertEqual(self.new_jobs(), [path])
+        self.printed.append(path)
+        return path

@@ -8,8 +8,7 @@ import unittest
 from datetime import date
 
 from desk import SAMPLES, tool
-from paper import LETTER, Paper, Printers
-from reader import ReadDesk
+from paper import INCH, LETTER, Paper, PrintDesk
 from screen import until
 
 HEAD = "head.bsw - Tarnwick"
@@ -17,7 +16,6 @@ PAGES, PRINTER, SETUP, PROPERTIES = "Choose Printer and Pages", "Choose Printer"
 SEGMENT, CANCELED = "Print Segment", "Printing Canceled"
 POWER, ESTIMATES, CALCULATOR = "Power Requirements", "Power Estimates", "Power Calculator"
 
-INCH = 1440
 ROW, FIRST_ROW = 265, 2400  # of the information sheet
 COLUMN = 1100  # its first
 BLANK = 57  # ahead of a value
@@ -36,17 +34,9 @@ TEETH = (("Band Saw Teeth:", ""), ("Tooth Style:", "Round Back"), ("Length:", "4
          ("Gullet Back Radius:", "0.200 in"), ("Gullet Area:", "0.473 in²"), ("Face Length:", "0.225 in (Average)"))
 
 
-class Printing(ReadDesk):
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.printers = Printers()
-        cls.addClassCleanup(cls.printers.close)
-
+class Printing(PrintDesk):
     def setUp(self):
         super().setUp()
-        self.screen.environment["CUPS_SERVER"] = str(self.printers.address)
-        self.printed = self.printers.printed()
         self.today = date.today()
 
     def design(self, sample="variable-pitch"):
@@ -56,14 +46,9 @@ class Printing(ReadDesk):
 
     # ---- jobs
 
-    def new_jobs(self):
-        return [path for path in self.printers.printed() if path not in self.printed]
-
     def job(self, printer, pages, copies=1):
         """The sheets of the only job since the last one."""
-        path = until(self.new_jobs, "something printed")[0]
-        self.assertEqual(self.new_jobs(), [path])
-        self.printed.append(path)
+        path = self.next_job()
         self.assertEqual(path.stem.rsplit("-", 1)[0], printer)
         self.assertIn(f"copies={copies}\n", path.with_suffix(".txt").read_text())
         paper = Paper(path)
@@ -103,13 +88,17 @@ class Printing(ReadDesk):
         self.expect_at(paper, f"{found[0]:%b}, {found[0].day}/{found[0]:%y}", date_at, 2.5 * ROW, page)
         self.expect_at(paper, label, date_at - AHEAD if label.startswith("Pg") else COLUMN, 2.5 * ROW, page)
 
-    def expect_rows(self, paper, rows, page=1, column=COLUMN):
-        """A heading and the rows below it, each in its place."""
-        first = FIRST_ROW
+    def expect_rows(self, paper, rows, top=FIRST_ROW, labels=COLUMN, values=COLUMN + 4000):
+        """A heading and the rows below it, each in its place on the first page."""
         for number, (label, value) in enumerate(rows):
-            self.expect_at(paper, label, column, first + number * ROW, page)
+            self.expect_at(paper, label, labels, top + number * ROW)
             if value:
-                self.expect_at(paper, value, column + 4000 + BLANK, first + number * ROW, page)
+                self.expect_at(paper, value, values + BLANK, top + number * ROW)
+
+    def expect_power(self, paper, rows):
+        """The figures of a cut below their heading; what they are of stands above."""
+        [(_, top, _)] = [place for place in paper.places(rows[0][0]) if abs(place[0] - 1200) < NEAR]
+        self.expect_rows(paper, rows, top, 1200, 3950)
 
     def expect_drawn(self, paper, page, left, right):
         """The teeth of the sample from left to right: their tips and the floors of their gullets, in true size."""
@@ -209,7 +198,13 @@ class Printing(ReadDesk):
         by_ten = "Estimates for bandsaw based on increasing feedrate by 10 percent"
         sheet = self.job("Alpha", 1)
         self.expect_heading(sheet, "Page 1 of 1")
-        self.assertIn(by_ten, sheet.text())
+        self.assertEqual([round(left) for left, _, _ in sheet.places(by_ten)], [1200])
+        self.expect_power(sheet, (("Current Estimate", ""), ("Wheel Diameter:", "6.000 ft"),
+                                  ("Wheel RPM's:", "530 rpms"), ("Tooth Speed:", "9990 fpm"),
+                                  ("Tooth Pitch:", "2.000 in"),
+                                  ("Plate Thickness:", "0.065 in"), ("Tip Kerf:", "0.135 in"),
+                                  ("Side Clearance:", "0.035 in"), ("Depth of Cut:", "18.000 in"),
+                                  ("Feed Rate:", "85 fpm")))
         self.press(POWER, "View Results")
         self.press(ESTIMATES, "Print")
         self.accept(PRINTER)
@@ -223,7 +218,9 @@ class Printing(ReadDesk):
         self.accept(PRINTER)
         sheet = self.job("Alpha", 1)
         self.expect_heading(sheet, "Page 1 of 1", title="Power Calculations")
-        self.assertIn("Power Calculation # 1", sheet.text())
+        self.expect_power(sheet, (("Power Calculation # 1", ""), ("Wheel Diameter:", "6.000 ft"),
+                                  ("Center to Center:", "10.575 ft"), ("Bandsaw Length:", "40.000 ft"),
+                                  ("Tooth Pitch:", "2.000 in"), ("Number of Teeth:", "240")))
         self.press(CALCULATOR, "Exit")
         self.leave(program)
 

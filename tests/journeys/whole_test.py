@@ -7,8 +7,7 @@ TARNWICK and TARNWICK_CLI name the programs.
 import unittest
 
 from desk import hook, read, tool
-from paper import Paper, Printers
-from reader import ReadDesk
+from paper import Paper, PrintDesk
 from screen import until
 
 UNTITLED, DAY = "untitled.bsw - Tarnwick", "day.bsw - Tarnwick"
@@ -20,14 +19,7 @@ KEPT = {"MainImpMetric": "1", "DisplayPlaces": "2", "SawLineColor": str(0x0088FF
         "Phone": "555 0123"}
 
 
-class Day(ReadDesk):
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.printers = Printers()
-        cls.addClassCleanup(cls.printers.close)
-        cls.screen.environment["CUPS_SERVER"] = str(cls.printers.address)
-
+class Day(PrintDesk):
     def expect_rows(self, **wanted):
         """Rows of the window, by their captions with a line for a blank."""
         rows = {caption.replace("_", " "): f" {value}" for caption, value in wanted.items()}
@@ -171,7 +163,7 @@ class Day(ReadDesk):
         self.expect_rows(Length="13.72 m")
         self.press(DAY, "Print")
         self.press(PAGES, "OK")
-        paper = Paper(until(self.printers.printed, "something printed")[0])
+        paper = Paper(self.next_job())
         self.assertEqual(paper.pages, 2)
         self.assertEqual([round(top) for _, top, _ in paper.places("Two Rivers Mill")], [530])
         for words in ("Phone: 555 0123", "Power Requirements:", "30.00 deg", "13.72 m", "Fir (White)", "Page 1 of 2"):
