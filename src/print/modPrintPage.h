@@ -18,7 +18,9 @@ struct PrintPage {
   PaperBox Frame;            // of the drawing
 
   [[nodiscard]] bool IsPortrait() const { return Turned == PaperOrientation::Portrait; }
+  // The paper is half an inch wider than the page; on one that is turned that lies below.
   [[nodiscard]] double PaperWidth() const { return IsPortrait() ? 8.5 * TwipsPerInch : Width; }
+  [[nodiscard]] double PaperHeight() const { return IsPortrait() ? Height : 8.5 * TwipsPerInch; }
   bool operator==(const PrintPage&) const = default;
 };
 

@@ -21,7 +21,7 @@ class LinePrinter {
   LinePrinter(PrintSheet& sheet, const PrintPage& page, double top, int rows)
       : sheet_(sheet),
         top_(top),
-        squeeze_(std::min(1.0, (page.Height - FootMargin - top) / (rows * SheetRow))),
+        squeeze_(std::min(1.0, (page.PaperHeight() - FootMargin - top) / (rows * SheetRow))),
         points_(std::min(TextPoints, MostOfRow * squeeze_ * SheetRow / TwipsPerPoint)) {}
 
   void Print(const std::string& label, const std::string& text = {}, bool heading = false) {

@@ -171,7 +171,7 @@ class Layout {
         ruler_(ruler),
         points_(points),
         columns_(page.IsPortrait() ? 2 : 3),
-        rows_(static_cast<int>((page.Height - FootMargin - FirstRowTop) / SheetRow)) {}
+        rows_(static_cast<int>((page.PaperHeight() - FootMargin - FirstRowTop) / SheetRow)) {}
 
   void Place(const SheetSection& section) {
     if (const std::optional<Cell> first = FindRoom(section)) {
@@ -181,8 +181,9 @@ class Layout {
     }
   }
 
-  /// Whether a row has found no room.
-  [[nodiscard]] bool IsFull() const { return full_; }
+  /// Torn: a section had to be divided where no heading begins. Full: a row has found no room.
+  enum class Fit { Whole, Torn, Full };
+  [[nodiscard]] Fit Fits() const { return fit_; }
   PrintRows Rows() { return {std::move(placed_), points_}; }
 
  private:
@@ -281,11 +282,12 @@ class Layout {
     for (auto end = section.end() - 1; end != section.begin(); --end) {
       const SheetSection part(section.begin(), end);
       if (const std::optional<Cell> first = FindRoom(part)) {
+        fit_ = std::max(fit_, Fit::Torn);
         Put(*first, part);
         return Place({end, section.end()});
       }
     }
-    full_ = true;
+    fit_ = Fit::Full;
     Put(AnyFree(), {section.front()});
     if (section.size() > 1) Place({section.begin() + 1, section.end()});
   }
@@ -302,7 +304,7 @@ class Layout {
   const double points_;
   const int columns_, rows_;
   int column_ = 1;  // in hand
-  bool full_ = false;
+  Fit fit_ = Fit::Whole;
   std::vector<PrintRow> placed_;
 };
 
@@ -323,10 +325,14 @@ PrintRow PlaceOfRow(int column, int row, const PrintPage& page) {
 
 PrintRows PlaceSections(const std::vector<SheetSection>& sections, const PrintPage& page,
                         const TextRuler& ruler) {
+  // Smaller letters where they keep a section together, or else where they keep a row on the sheet.
+  std::optional<PrintRows> torn;
   for (double points = TextPoints;; --points) {
     Layout layout(page, ruler, points);
     for (const SheetSection& section : sections) layout.Place(section);
-    if (!layout.IsFull() || points <= LeastPoints) return layout.Rows();
+    if (layout.Fits() == Layout::Fit::Whole) return layout.Rows();
+    if (layout.Fits() == Layout::Fit::Torn && !torn) torn = layout.Rows();
+    if (points <= LeastPoints) return torn ? *torn : layout.Rows();
   }
 }
 

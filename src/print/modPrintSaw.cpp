@@ -92,7 +92,7 @@ PaperMapping MappingOnPage(const BandSaw& saw, const PrintPage& page, int decima
 
 PaperBox DrawingBox(const PrintPage& page) {
   PaperBox box = page.Frame;
-  box.Bottom = std::min(box.Bottom, page.Top + page.Height - FootMargin);
+  box.Bottom = std::min(box.Bottom, page.Top + page.PaperHeight() - FootMargin);
   return box;
 }
 

@@ -84,9 +84,13 @@ TEST(PrintColumns, MoveWithTheWayThePaperLies) {
   }
 }
 
-TEST(PrintPaper, IsAsWideAsItReallyIs) {
-  EXPECT_EQ(PageFor({}).PaperWidth(), 12240);
-  EXPECT_EQ(PageFor({.Paper = LegalPaper, .Turned = PaperOrientation::Landscape}).PaperWidth(), 14 * 1440);
+TEST(PrintPaper, IsAsWideAndAsHighAsItReallyIs) {
+  const PrintPage upright = PageFor({.Paper = LegalPaper});
+  const PrintPage turned = PageFor({.Paper = LegalPaper, .Turned = PaperOrientation::Landscape});
+  EXPECT_EQ(upright.PaperWidth(), 12240);
+  EXPECT_EQ(upright.PaperHeight(), 14 * 1440);
+  EXPECT_EQ(turned.PaperWidth(), 14 * 1440);
+  EXPECT_EQ(turned.PaperHeight(), 12240);
 }
 
 }  // namespace

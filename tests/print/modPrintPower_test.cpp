@@ -102,7 +102,8 @@ TEST(PowerLines, MoveTogetherWhereThePaperIsTooShortForFiftyRows) {
     ASSERT_TRUE(first && last);
     const double row = (last->TopLeft.Y - first->TopLeft.Y) / 49;
     EXPECT_LT(row, 265);
-    EXPECT_LE(last->TopLeft.Y + row, page.Height - FootMargin + 1e-6);
+    EXPECT_NEAR(last->TopLeft.Y + row, page.PaperHeight() - FootMargin, 1e-6)
+        << "down to the end of the paper";
     EXPECT_GE(row, first->Font.Points * TwipsPerPoint) << "letters would touch";
     EXPECT_EQ(test::FindText(sheet, "label 50")->TopLeft.Y, first->TopLeft.Y);
   }

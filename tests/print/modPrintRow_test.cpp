@@ -359,9 +359,9 @@ TEST(PlaceSections, PutsOneBelowTheOtherWithAnEmptyRowBetween) {
 }
 
 TEST(PlaceSections, GoesOnInTheNextColumnWhenTheSheetEnds) {
-  // 49 rows have room upright, 33 lying.
+  // 49 rows have room upright, 35 lying: to the foot of the paper, which is lower than that of the page.
   EXPECT_EQ(PlacesOf({Section("a", 49), Section("b", 3)}, Upright), (Texts{"a 1.0", "b 2.0"}));
-  EXPECT_EQ(PlacesOf({Section("a", 33, ""), Section("b", 33, ""), Section("c", 3)}, Turned),
+  EXPECT_EQ(PlacesOf({Section("a", 35, ""), Section("b", 35, ""), Section("c", 3)}, Turned),
             (Texts{"a 1.0", "b 2.0", "c 3.0"}));
 }
 
@@ -407,6 +407,24 @@ TEST(PlaceSections, WritesSmallerOnAFullSheet) {
   const PrintRows rows = PlaceSections(wide, Upright, test::EvenRuler());
   EXPECT_LT(rows.Points, TextPoints);
   EXPECT_EQ(rows.Rows.size(), 98U);
+}
+
+TEST(PlaceSections, WritesSmallerRatherThanDividingASection) {
+  SheetSection teeth = Section("a", 49);
+  teeth[20].Value = " 2.000 in ab";  // reaches too far beside another column, in the usual letters
+  const std::vector<SheetSection> sections{teeth, Section("b", 40)};
+  EXPECT_EQ(PlacesOf(sections, Upright), (Texts{"a 1.0", "b 2.0"}));
+  EXPECT_EQ(PlaceSections(sections, Upright, test::EvenRuler()).Points, TextPoints - 1);
+}
+
+TEST(PlaceSections, FindsRoomForASegmentOfSevenTeethBelowTheTeethOnATurnedSheet) {
+  SheetSection teeth = Section("teeth", 25);
+  teeth.back().Value = " 0.459 in  (Average)";
+  const SheetSection segment = Section("segment", 10, "      Pitch:  1.500 in    Depth:  0.750 in");
+  EXPECT_EQ(
+      PlacesOf({teeth, segment, Section("general", 8), Section("machine", 4), Section("power", 8)}, Turned),
+      (Texts{"teeth 1.0", "segment 2.25", "general 3.0", "machine 3.9", "power 3.14"}))
+      << "no tooth stands apart from the others";
 }
 
 TEST(PlaceSections, LosesNoRowHoweverManyThereAre) {

@@ -60,7 +60,7 @@ TEST(MappingOnPage, IsInTrueSizeWithYUp) {
 
 TEST(DrawingBox, EndsWithThePaper) {
   EXPECT_EQ(DrawingBox(Upright), (PaperBox{720, 2600, 10800, 15480}));
-  EXPECT_EQ(DrawingBox(Turned), (PaperBox{720, 2900, 15120, 11160}));
+  EXPECT_EQ(DrawingBox(Turned), (PaperBox{720, 2900, 15120, 11880}));
 }
 
 // ---- kinds of pieces

@@ -165,10 +165,10 @@ class Grid:
         second = (200 if landscape else 400) + 5700
         self.labels = {1: 1100, 2: second, 3: 10300}
         self.columns = [1, 2, 3] if landscape else [1, 2]
-        self.count = int((height - 360 - 2400) // 265)
+        self.count = int(((8.5 * 1440 if landscape else height) - 360 - 2400) // 265)
         self.right = (width if landscape else 8.5 * 1440) - 240
         self.points = points
-        self.full = False
+        self.torn = self.full = False
         self.cells = {}
         self.order = []
         self.column = 1
@@ -228,6 +228,7 @@ class Grid:
         for end in range(len(section) - 1, 0, -1):
             found = self.find(section[:end])
             if found:
+                self.torn = True
                 self.put(found, section[:end])
                 self.place(section[end:])
                 return
@@ -243,15 +244,15 @@ def information(saw, metric, display, places, power, paper, landscape):
     def show(value, kind):
         return FormatValue(DecimalText(value), kind, metric, display, places)[0]
 
-    for points in (9, 8, 7):  # smaller letters where the sheet is too full
-        grid = Grid(paper, landscape, points)
+    grids = [Grid(paper, landscape, points) for points in (9, 8, 7)]  # smaller letters where the sheet is too full
+    for grid in grids:
         for section in sections(saw, show, power):
             grid.place(section)
-        if not grid.full:
-            break
+    grid = min(grids, key=lambda grid: (grid.full, not grid.full and grid.torn))
+    grid = grids[-1] if grid.full else grid
     return {"op": "Information", "metric": metric, "display": display, "places": places, "power": power,
             "paper": paper, "landscape": landscape, "saw": nested(saw), "rows": grid.order,
-            "points": points}
+            "points": grid.points}
 
 
 # --- drawings ----------------------------------------------------------------------------------------------------
@@ -281,7 +282,7 @@ def drawing(design, paper, landscape):
     height = page_size(paper, landscape)[1]
     center = saw["Width"] - saw["GulletInfo.Depth"] / 2
     zero_y = top + (center + (bottom - top) / 1440 / 2) * 1440
-    foot = min(bottom, height - 360)
+    foot = min(bottom, (8.5 * 1440 if landscape else height) - 360)
     pieces = [piece for piece in found["entities"] if not (piece[0] == "LINE" and piece[5])]
     inches = (right - left) / 1440
     sheets = 1
