@@ -42,12 +42,14 @@ class QtPrintDeviceTest : public QObject {
   void printsInTheSetupInForce_data();
   void printsInTheSetupInForce();
   void printsOnThePrinterChosen();
+  void printsInTrueSize_data();
   void printsInTrueSize();
   void takesOverWhatElseWasSetUp();
   void leavesOutWhatWasSetUpForAnother();
   void asksForTheQuality();
   void leavesNoJobBehindACancel();
   void tellsOfAQueueThatRefuses();
+  void leavesTheJobToAQueueThatIsStopped();
   void tellsOfAPrinterThatGoesAway();
 
   void hasNoPrintersWithoutAServer();  // the last one
@@ -176,9 +178,20 @@ void QtPrintDeviceTest::printsOnThePrinterChosen() {
   QCOMPARE(jobs[2].Printer + jobs[2].Title, QString("Alphathird"));
 }
 
+void QtPrintDeviceTest::printsInTrueSize_data() {
+  QTest::addColumn<PrinterSetup>("setup");
+  QTest::addColumn<QSizeF>("size");
+  QTest::newRow("A4 becomes letter") << A4Upright << QSizeF(612, 792);
+  QTest::newRow("legal, turned") << PrinterSetup{LegalPaper, PaperOrientation::Landscape, 1}
+                                 << QSizeF(1008, 612);
+}
+
 /// The whole way of a design: what its sheets have stands on paper where they have it.
 void QtPrintDeviceTest::printsInTrueSize() {
-  QVERIFY(device_->Choose("Beta"));  // A4 becomes letter
+  QFETCH(PrinterSetup, setup);
+  QFETCH(QSizeF, size);
+  QVERIFY(device_->Choose("Beta"));
+  QVERIFY(device_->SetUp(setup));
   cli::Design design = cli::ReadDesign(TARNWICK_SAMPLES_DIR "/round-back.json");
   CollectedMessages ignored;
   const EntityList lines = CalculateSaw(design.Saw, CalculationSettings(), ignored);
@@ -190,7 +203,7 @@ void QtPrintDeviceTest::printsInTrueSize() {
   const PrintJob job = SawJob(print, stationery, SawPages::Both);
   QVERIFY(!RunPrintJob(job, *device_, {}));
   const PrintedJob printed = OnlyJob();
-  QCOMPARE(printed.File.Size(), QSizeF(612, 792));
+  QCOMPARE(printed.File.Size(), size);
   QCOMPARE(printed.File.Pages(), 2);
   HoldsTexts(printed.File, job.Sheet(1), 1);
   HoldsTexts(printed.File, job.Sheet(2), 2);
@@ -297,6 +310,15 @@ void QtPrintDeviceTest::tellsOfAQueueThatRefuses() {
   QVERIFY(printers_.Jobs().empty());
   QVERIFY(!PrintAPage());
   QCOMPARE(printers_.Jobs().size(), std::size_t{1});
+}
+
+void QtPrintDeviceTest::leavesTheJobToAQueueThatIsStopped() {
+  QVERIFY(device_->Choose("Alpha"));
+  printers_.Command("cupsdisable", {"Alpha"});
+  const std::error_code failed = PrintAPage("later");
+  printers_.Command("cupsenable", {"Alpha"});
+  QCOMPARE(failed, std::error_code());
+  QCOMPARE(OnlyJob().Title, QString("later"));
 }
 
 void QtPrintDeviceTest::tellsOfAPrinterThatGoesAway() {

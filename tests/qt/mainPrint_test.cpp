@@ -54,6 +54,8 @@ class mainPrintTest : public QObject {
   void printsThePowerCalculations();
   void printsToAFile();
   void leavesNoJobWhenCancelled();
+  void leavesNoJobWhenTheQueueRefuses_data();
+  void leavesNoJobWhenTheQueueRefuses();
   void saysThatThereIsNoPrinter_data();
   void saysThatThereIsNoPrinter();
 
@@ -226,6 +228,33 @@ void mainPrintTest::leavesNoJobWhenCancelled() {
   }
   QCOMPARE(main_->User.Seen.size(), 8);
   QVERIFY(main_->Program.Say.Shown.empty());
+  QVERIFY(printers_.Jobs().empty());
+}
+
+void mainPrintTest::leavesNoJobWhenTheQueueRefuses_data() {
+  QTest::addColumn<QString>("command");
+  for (const char* command :
+       {"mnuItemPrint", "mnuItemPrintInfo", "mnuItemPrintShape", "mnuItemPrintVariable"}) {
+    QTest::newRow(command) << command;
+  }
+}
+
+void mainPrintTest::leavesNoJobWhenTheQueueRefuses() {
+  QFETCH(QString, command);
+  main_->Open(ShortSegment());
+  main_->Program.Say.Shown.clear();
+  printers_.Command("cupsreject", {"Alpha"});
+  main_->User.Acts = {On("Alpha")};
+  main_->Do(command.toUtf8());
+  printers_.Command("cupsaccept", {"Alpha"});
+  QCOMPARE(main_->Program.Say.Shown.size(), 1U);
+  const Box& told = main_->Program.Say.Shown[0];
+  QCOMPARE(told.Title, std::string("Printer"));
+  QVERIFY2(told.Text.starts_with("Error Number: "), told.Text.c_str());
+  QVERIFY2(told.Text.ends_with("\nSub Program " + command.toStdString()), told.Text.c_str());
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    QVERIFY2(window->objectName() != "frmPrintMsg" || !window->isVisible(), "the notice stays");
+  }
   QVERIFY(printers_.Jobs().empty());
 }
 
