@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "cli/Design.h"
 #include "model/modEntity.h"
 #include "model/modSettings.h"

@@ -2,7 +2,6 @@
 
 #include <exception>
 #include <functional>
-#include <utility>
 
 #include "cli/Calculation.h"
 #include "cli/Evaluation.h"

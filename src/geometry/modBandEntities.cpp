@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "geometry/modBand.h"
-#include "geometry/modJoin.h"
 #include "geometry/modPieceList.h"
 #include "geometry/modToothStamp.h"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "geometry/modTrig.h"
+#include "model/modChecked.h"
 #include "platform/Messages.h"
 
 namespace tarnwick {

@@ -2,7 +2,6 @@
 
 #include "geometry/modBandTeeth.h"
 #include "geometry/modToothFamily.h"
-#include "geometry/modToothWork.h"
 
 namespace tarnwick {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometry/modToothWork.h"
+#include "geometry/modTrig.h"
 
 namespace tarnwick {
 

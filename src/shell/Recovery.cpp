@@ -1,7 +1,6 @@
 #include "shell/Recovery.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdio>
 #include <optional>
 #include <random>

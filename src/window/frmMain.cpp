@@ -18,7 +18,6 @@
 #include "platform/qt/NamedControls.h"
 #include "shell/frmAnime.h"
 #include "shell/modString.h"
-#include "shell/modTimeDate.h"
 #include "shell/modWindowSize.h"
 #include "window/fraDisplay.h"
 #include "window/fraGeneral.h"

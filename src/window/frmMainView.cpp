@@ -13,7 +13,6 @@
 #include "platform/qt/TabStep.h"
 #include "shell/OptionsDialog.h"
 #include "shell/frmCfg.h"
-#include "shell/modString.h"
 #include "shell/modTimeDate.h"
 #include "shell/modWindowSize.h"
 #include "variable/modSegmentHint.h"

@@ -1,7 +1,6 @@
 #include "window/modBoxRules.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "model/modDecim.h"
 #include "power/modPower.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "window/modDisplay.h"
 #include "window/modPanelField.h"
 

@@ -3,7 +3,6 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QString>
 #include <QStyleOptionViewItem>
 #include <QStyledItemDelegate>
 #include <algorithm>

@@ -3,7 +3,6 @@
 #include <QFontMetricsF>
 #include <QPen>
 #include <QPolygonF>
-#include <QString>
 #include <algorithm>
 #include <cmath>
 

@@ -2,7 +2,6 @@
 
 #include <QMessageBox>
 #include <QPushButton>
-#include <utility>
 #include <vector>
 
 #include "platform/qt/Language.h"

@@ -1,11 +1,9 @@
 #include "platform/qt/QtPdfFiles.h"
 
 #include <QBuffer>
-#include <QByteArray>
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <optional>
 
 #include "platform/qt/QtPaperKinds.h"
 #include "store/modFiles.h"

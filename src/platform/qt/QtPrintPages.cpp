@@ -1,11 +1,14 @@
 #include "platform/qt/QtPrintPages.h"
 
+#include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLineF>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPen>
+#include <QPolygonF>
+#include <QRectF>
 #include <algorithm>
 #include <cmath>
 #include <numbers>

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <QFont>
-#include <QPolygonF>
-#include <QRectF>
 #include <QString>
 #include <functional>
 #include <vector>

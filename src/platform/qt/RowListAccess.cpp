@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPointer>
-#include <cmath>
 #include <map>
 
 #include "platform/qt/Language.h"
