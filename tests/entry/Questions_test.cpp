@@ -17,8 +17,8 @@ using test::AcceptsAsItOpens;
 using test::Cancels;
 using test::ChangedFields;
 using test::DeclinesToSay;
+using test::DesignOfEveryField;
 using test::Enters;
-using test::FullDesign;
 using test::Picks;
 using test::Says;
 using test::ScriptedDialogHost;
@@ -41,8 +41,8 @@ class AQuestion : public testing::Test {
 
   CollectedMessages say_;
   ScriptedDialogHost host_;
-  BandSaw saw_ = FullDesign();
-  BandSaw before_ = FullDesign();
+  BandSaw saw_ = DesignOfEveryField();
+  BandSaw before_ = DesignOfEveryField();
   int settingsSaved_ = 0;
 };
 

@@ -19,8 +19,8 @@ using test::AcceptsAsItOpens;
 using test::Cancels;
 using test::ChangedFields;
 using test::DeclinesToSay;
+using test::DesignOfEveryField;
 using test::Enters;
-using test::FullDesign;
 using test::Says;
 using test::ScriptedDialogHost;
 
@@ -250,7 +250,7 @@ TEST_F(StepByStep, ConvertsWhatIsTypedInMetric) {
 }
 
 TEST_F(StepByStep, LeavesMeasuresThatItsStyleIsNotAskedFor) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   const BandSaw before = saw_;
   ChooseStyle(NarrowStyle);
   EXPECT_TRUE(Run());
@@ -272,7 +272,7 @@ struct AbortRow {
 class StepByStepAbort : public StepByStep, public testing::WithParamInterface<AbortRow> {};
 
 TEST_P(StepByStepAbort, EmptiesAFullRecordAndAsksNoMore) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   EXPECT_FALSE(RunWithout(GetParam().Declined));
   EXPECT_EQ(Changed(BandSaw{}), Fields{});
   EXPECT_EQ(desk_.Titles.size(), GetParam().Asked);
@@ -291,7 +291,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.Name); });
 
 TEST_F(StepByStep, TakesATypedTextThatIsNoStyleAsDeclined) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   Answer("BandSaw Tooth Style", "Shark");
   EXPECT_FALSE(Run());
   EXPECT_EQ(desk_.Titles, Titles{"BandSaw Tooth Style"});
@@ -299,7 +299,7 @@ TEST_F(StepByStep, TakesATypedTextThatIsNoStyleAsDeclined) {
 }
 
 TEST(ClearBandSaw, LeavesNothing) {
-  BandSaw saw = FullDesign();
+  BandSaw saw = DesignOfEveryField();
   ClearBandSaw(saw);
   EXPECT_EQ(ChangedFields(BandSaw{}, saw), Fields{});
 }
@@ -315,7 +315,7 @@ struct IgnoreRow {
 class StepByStepIgnore : public StepByStep, public testing::WithParamInterface<IgnoreRow> {};
 
 TEST_P(StepByStepIgnore, KeepsTheMeasureThatWasThere) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   const BandSaw before = saw_;
   Answer("BandSaw Tip Type", "Swagged");
   EXPECT_TRUE(RunWithout({GetParam().Title}));
@@ -439,7 +439,7 @@ class StepByStepDefault : public StepByStep, public testing::WithParamInterface<
 };
 
 TEST_P(StepByStepDefault, ReplacesWhatWasThere) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   ChooseStyle(GetParam().Style);
   EXPECT_TRUE(RunWithout({"Tooth Pitch", GetParam().Title}));
   EXPECT_TRUE(Asked(GetParam().Title));
@@ -503,7 +503,7 @@ TEST_F(StepByStep, TakesThePitchFromTheTeethAlsoWhenAPitchWasGiven) {
 }
 
 TEST_F(StepByStep, LeavesAloneWhatNoTeethGiveADefaultFor) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   const double before = saw_.GulletInfo.Radius1;
   ChooseStyle(DoubleRadius);
   Answer("Number of Teeth", "0");

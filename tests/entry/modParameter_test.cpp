@@ -11,7 +11,7 @@ namespace tarnwick {
 namespace {
 
 using test::ChangedFields;
-using test::FullDesign;
+using test::DesignOfEveryField;
 
 std::string NameOf(const auto& row) { return row.param.Name; }
 
@@ -109,7 +109,7 @@ struct WriteOther {
 
 TEST_P(ParameterTable, WritesItsFieldAndNoOther) {
   const std::string field = GetParam().Field;
-  const BandSaw before = FullDesign();
+  const BandSaw before = DesignOfEveryField();
   BandSaw after = before;
   const bool written = std::visit(WriteOther{after}, RowOf(GetParam().Id).Field);
   EXPECT_EQ(written, !field.empty());

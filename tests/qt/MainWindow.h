@@ -43,7 +43,7 @@ inline BandSaw FullDesign(int style = TripleRadius) {
   g.Radius = 0.35;
   g.Depth = 0.8;
   g.BackAngle = 20;
-  g.BackRadius = style == RoundBack || style > RoundBack ? 0.25 : 0;
+  g.BackRadius = style >= RoundBack ? 0.25 : 0;
   g.Radius1 = 0.2;
   g.Radius2 = 0.45;
   g.Radius3 = style == TripleRadius ? 0.3 : 0;

@@ -9,16 +9,16 @@ namespace tarnwick {
 namespace {
 
 using test::ChangedFields;
-using test::FullDesign;
+using test::DesignOfEveryField;
 
-std::string Text() { return RecoveryText("Säge 木.bsw", "/home/sawyer/a\nb/", FullDesign()); }
+std::string Text() { return RecoveryText("Säge 木.bsw", "/home/sawyer/a\nb/", DesignOfEveryField()); }
 
 TEST(RecoveryCopy, HoldsNameFolderAndEveryField) {
   const auto copy = ReadRecovery(Text());
   ASSERT_TRUE(copy);
   EXPECT_EQ(copy->FileName, "Säge 木.bsw");
   EXPECT_EQ(copy->Folder, "/home/sawyer/a\nb/");
-  EXPECT_EQ(ChangedFields(FullDesign(), copy->Saw), std::set<std::string>{});
+  EXPECT_EQ(ChangedFields(DesignOfEveryField(), copy->Saw), std::set<std::string>{});
 }
 
 TEST(RecoveryCopy, IsLaidOutThus) {
@@ -54,7 +54,7 @@ TEST(RecoveryCopy, IsNoneWithAnyByteChanged) {
 TEST(RecoveryCopy, IsNoneWithMoreBehindIt) { EXPECT_FALSE(ReadRecovery(Text() + '\0')); }
 
 TEST(RecoveryCopy, IsNoOtherFile) {
-  EXPECT_FALSE(ReadRecovery(BandSawText(FullDesign())));
+  EXPECT_FALSE(ReadRecovery(BandSawText(DesignOfEveryField())));
   EXPECT_FALSE(ReadRecovery(std::string(5000, '\0')));
 }
 

@@ -10,7 +10,7 @@
 namespace tarnwick::test {
 
 /// A record in which every field holds something, so that a field that is wiped shows.
-inline BandSaw FullDesign() {
+inline BandSaw DesignOfEveryField() {
   BandSaw saw;
   int number = 0;
   ForEachField(saw, [&number](const char*, auto& field) {

@@ -12,7 +12,7 @@ namespace tarnwick {
 namespace {
 
 using test::ChangedFields;
-using test::FullDesign;
+using test::DesignOfEveryField;
 using Names = std::set<std::string>;
 
 constexpr int Places = 5;
@@ -269,7 +269,7 @@ TEST(PlateAndKerfRow, WorkOutTheSideClearance) {
 // ---- what the rules leave alone
 
 Names BoxChanges(Parameter accepted) {
-  BandSaw saw = FullDesign();
+  BandSaw saw = DesignOfEveryField();
   saw.ToothStyle = TripleRadius;
   const BandSaw before = saw;
   ApplyBoxRule(accepted, saw, Places);
@@ -277,7 +277,7 @@ Names BoxChanges(Parameter accepted) {
 }
 
 Names RowChanges(Parameter accepted) {
-  BandSaw saw = FullDesign();
+  BandSaw saw = DesignOfEveryField();
   saw.ToothStyle = TripleRadius;
   const BandSaw before = saw;
   ApplyRowRule(accepted, saw, Places);

@@ -11,18 +11,18 @@ namespace tarnwick {
 namespace {
 
 using test::ChangedFields;
-using test::FullDesign;
+using test::DesignOfEveryField;
 using Names = std::set<std::string>;
 
 TEST(BeginTransfer, TakesTheWholeDesignTwice) {
-  const BandSaw saw = FullDesign();
+  const BandSaw saw = DesignOfEveryField();
   const Transfer transfer = BeginTransfer(saw);
   EXPECT_EQ(ChangedFields(saw, transfer.TransferSaw), Names{});
   EXPECT_EQ(ChangedFields(saw, transfer.TransferOld), Names{});
 }
 
 TEST(BackFromPower, TakesTheDesignAndKeepsTheOneBefore) {
-  BandSaw saw = FullDesign(), sawEdit;
+  BandSaw saw = DesignOfEveryField(), sawEdit;
   const BandSaw before = saw;
   Transfer transfer = BeginTransfer(saw);
   transfer.TransferSaw.GeneralInfo.FeedRate = 250;
@@ -45,7 +45,7 @@ TEST(BackFromPower, HasAPowerSectionOnceThereIsAPower) {
 }
 
 TEST(BackFromPower, ChangesNothingElse) {
-  BandSaw saw = FullDesign(), sawEdit;
+  BandSaw saw = DesignOfEveryField(), sawEdit;
   const BandSaw before = saw;
   saw.ContainsInfo.Power = True;
   Transfer transfer = BeginTransfer(saw);
@@ -97,7 +97,7 @@ TEST_F(BackFromBandCalc, TakesWheelsWithoutTouchingTheTeeth) {
 }
 
 TEST_F(BackFromBandCalc, ChangesNothingWhenNothingWasChanged) {
-  saw_ = FullDesign();
+  saw_ = DesignOfEveryField();
   const BandSaw before = saw_;
   transfer_ = BeginTransfer(saw_);
   TakeFromBandCalc(transfer_, saw_);

@@ -91,7 +91,7 @@ TEST_F(EditorRows, OfStylesWithOneRadiusHaveTheirOwnPictures) {
 
 /// Every figure that a row can show.
 BandSaw FullOfRows(int style) {
-  BandSaw saw = test::FullDesign();
+  BandSaw saw = test::DesignOfEveryField();
   saw.ToothStyle = static_cast<std::int16_t>(style);
   saw.GeneralInfo.NumVariables = 3;
   saw.NumTeeth = 100;
