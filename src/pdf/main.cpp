@@ -10,7 +10,6 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/WideArguments.h"
-#include "geometry/modTooth.h"
 #include "platform/CollectedMessages.h"
 #include "platform/qt/QtPdfFiles.h"
 #include "print/PrintJob.h"
@@ -34,11 +33,10 @@ std::string TitleOf(const std::string& name) {
 }
 
 /// The sheets that the options ask for, on a device.
-std::error_code Print(const Options& options, const std::string& name, BandSaw& saw, const EntityList& band,
-                      PrintDevice& device) {
+std::error_code Print(const Options& options, const std::string& name, const BandSaw& saw,
+                      const EntityList& band, PrintDevice& device) {
   CollectedMessages ignored;  // the band as a whole has told what there is to tell
-  const bool isTiled = !options.Pages && saw.GeneralInfo.VariablePitch;
-  const EntityList segment = isTiled ? CalculateSegment(saw, options.Settings, ignored) : EntityList();
+  const EntityList segment = options.Pages ? EntityList() : SegmentToPrint(saw, options.Settings, ignored);
   const SawPrint print{
       .Saw = saw,
       .Lines = band,

@@ -3,7 +3,6 @@
 #include <system_error>
 #include <utility>
 
-#include "geometry/modTooth.h"
 #include "model/modDecim.h"
 #include "power/PowerCalculator.h"
 #include "power/PowerEditor.h"
@@ -144,16 +143,14 @@ void PrintCommands::TellFailure(std::error_code failure, std::string_view activi
 struct PrintCommands::Sheets {
   enum class Of { Saw, SawAndSegment };
 
-  BandSaw Saw;  // a copy: laying out a segment corrects its depths
   EntityList Segment;
   SawPrint Print;
 
   Sheets(const Program& process, Of what)
-      : Saw(process.Design.Saw),
-        Segment(what == Of::SawAndSegment && Saw.GeneralInfo.VariablePitch
-                    ? CalculateSegment(Saw, process.Design.Settings.Calculation, process.Out.Say)
+      : Segment(what == Of::SawAndSegment
+                    ? SegmentToPrint(process.Design.Saw, process.Design.Settings.Calculation, process.Out.Say)
                     : EntityList()),
-        Print{.Saw = Saw,
+        Print{.Saw = process.Design.Saw,
               .Lines = process.Design.Lines,
               .Segment = Segment,
               .Format = process.Design.Format(),

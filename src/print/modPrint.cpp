@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "geometry/modTooth.h"
 #include "print/modPrintRow.h"
 #include "print/modPrintSaw.h"
 #include "print/modPrintSegment.h"
@@ -30,6 +31,10 @@ PrintSheet ShapeSheet(const SawPrint& print, const Stationery& stationery, const
 }
 
 }  // namespace
+
+EntityList SegmentToPrint(BandSaw saw, const CalculationSettings& settings, Messages& messages) {
+  return saw.GeneralInfo.VariablePitch ? CalculateSegment(saw, settings, messages) : EntityList();
+}
 
 PrintJob SawJob(const SawPrint& print, const Stationery& stationery, SawPages pages) {
   const int sheets = pages == SawPages::Both ? 2 : 1;

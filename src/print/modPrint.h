@@ -7,6 +7,7 @@
 #include "model/modBandSaw.h"
 #include "model/modEntity.h"
 #include "model/modSettings.h"
+#include "platform/Messages.h"
 #include "print/modPrintHeader.h"
 #include "print/modPrintPage.h"
 #include "print/modPrintPower.h"
@@ -38,6 +39,10 @@ struct SawPrint {
   int LineThick = LeastLineThick;
   bool WithPower = false;
 };
+
+/// The segment as it is printed; nothing of a band that has none. Takes a copy: laying a segment out corrects
+/// the design, which is to be printed as it stands.
+[[nodiscard]] EntityList SegmentToPrint(BandSaw saw, const CalculationSettings& settings, Messages& messages);
 
 // The jobs. They refer to what they are given, which has to outlive them.
 

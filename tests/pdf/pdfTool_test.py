@@ -116,6 +116,16 @@ class Sheets(PdfTool):
         self.assertAlmostEqual(sum(columns) / len(columns), seam_at, delta=2)
         self.assertGreater(len(runs(rows)), 30)  # dots
 
+    def test_tell_of_the_design_whatever_becomes_of_its_segment(self):
+        frost = json.loads((SAMPLES / "frost.json").read_text())
+        frost["GulletInfo"]["Radius"] = 0  # with which a segment has no teeth, nor a face
+        frost["GeneralInfo"].update(VariablePitch=-1, NumVariables=3, VarPitch=[1.9, 2, 2.1, 0, 0, 0, 0, 0, 0, 0])
+        for design in json.dumps(frost).encode(), (SAMPLES / "variable-depth.json").read_bytes():
+            alone, among_all = (self.pdf("-", *pages, input=design).text(1)
+                                for pages in (("--pages", "both"), ()))
+            self.assertIn("Face Length:", alone)
+            self.assertEqual(alone, among_all)
+
     def test_show_the_teeth_in_true_size(self):
         pdf = self.pdf(SAMPLES / "round-back.json", "--pages", "drawing")
         _, rows = pdf.black(1, 720, 9000, 4000, 2600)

@@ -44,6 +44,17 @@ TEST_F(PrintCommandsTest, ExportTheSegmentToo) {
   EXPECT_TRUE(test::FindText(Pdf.Jobs[0].Pages[5], "Pg 4 of 4"));
 }
 
+TEST_F(PrintCommandsTest, ExportTheInformationOfTheDesignAndNotOfItsSegment) {
+  MakeVariable();
+  Process.Design.Saw.ToothStyle = FrostTooth;
+  Process.Design.Saw.GulletInfo.Radius = 0;  // with which a segment has no teeth, nor a face
+  Process.Design.Recalculate(Say);
+  ASSERT_GT(Process.Design.Saw.GulletInfo.FaceLength, 0);
+  Files.Paths = {"print.pdf"};
+  Commands.ExportPdf();
+  EXPECT_TRUE(test::FindText(Pdf.Jobs.at(0).Pages.at(0), "Face Length:"));
+}
+
 TEST_F(PrintCommandsTest, ExportNeedsNoPrinter) {
   Printer.Names.clear();
   Files.Paths = {"print.pdf"};
