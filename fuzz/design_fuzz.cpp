@@ -2,9 +2,9 @@
 // listing, sheets, panel of the variable pitch, machine. Bytes behind the record choose the settings.
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 
+#include "Demand.h"
 #include "MutateRecord.h"
 #include "ShortBand.h"
 #include "dxf/modDXF.h"
@@ -25,6 +25,7 @@
 namespace {
 
 using namespace tarnwick;
+using fuzz::Demand;
 
 /// A surface that nobody looks at.
 class NoCanvas final : public Canvas {
@@ -48,10 +49,6 @@ class EvenRuler final : public TextRuler {
             1.15 * font.Points * TwipsPerPoint};
   }
 };
-
-void Demand(bool holds) {
-  if (!holds) std::abort();
-}
 
 /// The byte of that number behind the record.
 int Choice(std::string_view file, std::size_t number) {

@@ -4,10 +4,10 @@
 #include "shell/Recovery.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <string>
 
+#include "Demand.h"
 #include "ScratchFolder.h"
 #include "ShortBand.h"
 #include "platform/CollectedMessages.h"
@@ -18,12 +18,9 @@
 namespace {
 
 using namespace tarnwick;
+using fuzz::Demand;
 
 const std::filesystem::path CopyName = "Tarnwick/recovery-0123456789abcdef.copy";
-
-void Demand(bool holds) {
-  if (!holds) std::abort();
-}
 
 /// Somebody with one answer to everything.
 class Decided final : public Messages {

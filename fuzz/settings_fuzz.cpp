@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "Demand.h"
 #include "ScratchFolder.h"
 #include "platform/CollectedMessages.h"
 #include "store/modCfg.h"
@@ -17,10 +17,7 @@
 namespace {
 
 using namespace tarnwick;
-
-void Demand(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::Demand;
 
 /// Passes everything on, and notes the names of what is set.
 class NotingStore final : public SettingsStore {
