@@ -160,8 +160,7 @@ void frmPowerCalc::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmPowerCalc::ShowState() {
-  // "[*]" is a mark of the toolkit's unless it stands twice.
-  setWindowTitle(Translated(calculator_.Caption()).replace("[*]", "[*][*]"));
+  setWindowTitle(AsTitle(Translated(calculator_.Caption())));
   for (std::size_t side = 0; side < Sides; ++side) {
     boxes_[side].ShowTexts(
         [this, side](PowerBox box) -> const std::string& { return calculator_.Text(box, side); });

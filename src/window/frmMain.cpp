@@ -134,13 +134,10 @@ QWidget* frmMain::MakeHintStrip() {
   hintStrip_->setAutoFillBackground(true);
   hintRow_ = new QGridLayout(hintStrip_);
   hintRow_->setContentsMargins(6, 2, 6, 2);
-  lblStatus_ = new QLabel(hintStrip_);
-  lblStatus_->setObjectName("lblStatus");
+  lblStatus_ = MakeLabel("lblStatus", {});
   lblStatus_->setAccessibleName(tr("Status"));
-  lblHint_ = new QLabel(hintStrip_);
-  lblHint_->setObjectName("lblHint");
+  lblHint_ = MakeLabel("lblHint", {});
   lblHint_->setAccessibleName(tr("Hint"));
-  for (QLabel* label : {lblStatus_, lblHint_}) label->setTextFormat(Qt::PlainText);
   lblHint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   hintRow_->addWidget(lblStatus_, 0, 0);
   hintRow_->addWidget(lblHint_, 0, 1);

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWidgetList>
 
+#include "platform/qt/NamedControls.h"
 #include "platform/qt/QtText.h"
 #include "shell/frmAnime.h"
 #include "window/fraDisplay.h"
@@ -69,10 +70,7 @@ void frmMain::End() {
 
 // ---- what the document commands ask of the window
 
-void frmMain::ShowCaption() {
-  // "[*]" is a mark of the toolkit's unless it stands twice.
-  setWindowTitle(ToQt(design_.Caption()).replace("[*]", "[*][*]"));
-}
+void frmMain::ShowCaption() { setWindowTitle(AsTitle(ToQt(design_.Caption()))); }
 
 void frmMain::ShowRecentFiles() {
   const RecentFiles& files = design_.Settings.Recent;

@@ -7,6 +7,8 @@ namespace tarnwick {
 
 QString Spoken(QString caption) { return caption.remove('&').remove(':').trimmed(); }
 
+QString AsTitle(QString text) { return text.replace("[*]", "[*][*]"); }
+
 QPushButton* MakeButton(const char* name, const QString& caption) {
   auto* button = new QPushButton(caption);
   button->setObjectName(name);
