@@ -5,6 +5,7 @@
 
 #include "dxf/modDXF.h"
 #include "machine/modMachineDraw.h"
+#include "shell/ProgramQuestions.h"
 #include "shell/SavePath.h"
 #include "shell/TellFailures.h"
 #include "store/modPath.h"
@@ -28,9 +29,7 @@ class Busy {
 
 }  // namespace
 
-Questions BandCalculator::Asking() const {
-  return {dialogs_, program_.Out.Say, Format(), [this] { program_.SaveSettings(); }};
-}
+Questions BandCalculator::Asking() const { return QuestionsOf(program_, dialogs_); }
 
 // ---- showing
 

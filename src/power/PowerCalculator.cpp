@@ -8,6 +8,7 @@
 #include "model/modDecim.h"
 #include "power/modFeedIndex.h"
 #include "power/modPowerChain.h"
+#include "shell/ProgramQuestions.h"
 #include "shell/SavePath.h"
 #include "shell/modFailure.h"
 #include "store/modPath.h"
@@ -114,9 +115,7 @@ void PowerCalculator::Click(PowerBox box, std::size_t side) {
   const auto boxes = PowerCalculatorBoxes();
   const auto row = std::find_if(boxes.begin(), boxes.end(), [box](const auto& r) { return r.Box == box; });
   if (side >= saws_.size() || row == boxes.end() || !row->Asked) return;
-  const Questions questions{dialogs_, program_.Out.Say, program_.Design.Format(),
-                            [this] { program_.SaveSettings(); }};
-  if (!questions.Ask(*row->Asked, saws_[side])) return;
+  if (!QuestionsOf(program_, dialogs_).Ask(*row->Asked, saws_[side])) return;
   SetDependent(box, saws_[side]);
   Calculate(side);
   UpdateTextBoxes(side);

@@ -5,6 +5,7 @@
 
 #include "model/modCharacters.h"
 #include "model/modDecim.h"
+#include "shell/ProgramQuestions.h"
 
 namespace tarnwick {
 namespace {
@@ -123,9 +124,7 @@ void PowerEditor::Click(PowerBox box) {
   const auto boxes = PowerEditorBoxes();
   const auto row = std::find_if(boxes.begin(), boxes.end(), [box](const auto& r) { return r.Box == box; });
   if (row == boxes.end() || !row->Asked) return;
-  const Questions questions{dialogs_, program_.Out.Say, program_.Design.Format(),
-                            [this] { program_.SaveSettings(); }};
-  if (!questions.Ask(*row->Asked, saw_)) return;
+  if (!QuestionsOf(program_, dialogs_).Ask(*row->Asked, saw_)) return;
   ShowOrEmpty(box);
   if (box == PowerBox::RPMs) WorkOutVelocity();
   if (box != PowerBox::SpecificEnergy) {

@@ -5,6 +5,7 @@
 #include "dxf/modDXF.h"
 #include "entry/StepByStep.h"
 #include "print/modText.h"
+#include "shell/ProgramQuestions.h"
 #include "shell/SavePath.h"
 #include "shell/TellFailures.h"
 #include "shell/modFailure.h"
@@ -165,11 +166,8 @@ void DocumentCommands::NewStepByStep() {
   BeginBlank();
   Design().SawSaved = Design().Saw;  // what the questions make of it counts as a change
   Recalculate();
-  const Program& process = desk_.Process;
-  const Questions questions{desk_.Dialogs, process.Out.Say, Design().Format(),
-                            [&process] { process.SaveSettings(); }};
-  if (!StepByStepInput(Design().Saw, questions)) Design().ResetUnits();
-  Design().Recalculate(process.Out.Say);
+  if (!StepByStepInput(Design().Saw, QuestionsOf(desk_.Process, desk_.Dialogs))) Design().ResetUnits();
+  Design().Recalculate(desk_.Process.Out.Say);
   Design().ViewAll();
   desk_.Panels.DrawSaw();
   FillAll();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/Clock.h"
+#include "shell/ProgramQuestions.h"
 #include "variable/modVariable.h"
 #include "window/KeptChanges.h"
 
@@ -25,9 +26,7 @@ std::string StyleRefusal(int toothStyle) {
 VariableCommands::VariableCommands(Program& program, DialogHost& host, MainView& view)
     : program_(program), host_(host), view_(view), editor_(program.Design, [this] { Recalculate(); }) {}
 
-Questions VariableCommands::Asking() const {
-  return {host_, program_.Out.Say, program_.Design.Format(), [this] { program_.SaveSettings(); }};
-}
+Questions VariableCommands::Asking() const { return QuestionsOf(program_, host_); }
 
 void VariableCommands::Recalculate() {
   program_.Design.Recalculate(program_.Out.Say);

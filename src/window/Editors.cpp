@@ -1,15 +1,14 @@
 #include "window/Editors.h"
 
 #include "power/modPower.h"
+#include "shell/ProgramQuestions.h"
 #include "shell/modString.h"
 #include "window/KeptChanges.h"
 #include "window/modBoxRules.h"
 #include "window/modSelect.h"
 
 namespace tarnwick {
-Questions Editors::Asking() const {
-  return {host_, program_.Out.Say, program_.Design.Format(), [this] { program_.SaveSettings(); }};
-}
+Questions Editors::Asking() const { return QuestionsOf(program_, host_); }
 
 void Editors::Recalculate() {
   program_.Design.Recalculate(program_.Out.Say);
