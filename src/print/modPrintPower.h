@@ -15,8 +15,8 @@ struct PowerSheetText {
   std::string Foot;  // below them; empty: none
 };
 
-/// The heading, and below it the lines in two blocks of fifty rows. Where the sheet is
-/// too short for the longer block its rows stand closer, with smaller letters where they would touch.
+/// The heading, and below it the lines in two blocks of fifty rows. Where the sheet is too short for the
+/// longer block its rows stand closer, with smaller letters where they would touch.
 /// @param top  where the header ends
 void AppendPowerLines(PrintSheet& sheet, const PowerSheetText& text, const PrintPage& page, double top);
 

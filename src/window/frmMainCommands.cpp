@@ -21,7 +21,8 @@ namespace {
 constexpr const char* BusyItems[] = {"mnuItemAbout",      "mnuItemSplash",  "mnuItemNew",
                                      "mnuItemStepByStep", "mnuItemOptions", "mnuItemPrintShape"};
 
-/// The windows that go with the main window, in this order.
+/// The windows that go with the main window, in this order. Some are no windows of their own on this toolkit
+/// (frmDialog is the desktop's dialog for files), and one that is not open is passed over.
 constexpr const char* OtherWindows[] = {"frmAbout",   "frmAnime", "frmBandCalc", "frmBDialog",
                                         "frmCDialog", "frmCfg",   "frmColor",    "frmDialog",
                                         "frmGauge",   "frmPower", "frmPowerEst", "frmSplash"};
