@@ -138,7 +138,8 @@ stage_drawings() {
 stage_benchmarks() {
   build_preset bench
   build/bench/bench/tarnwick_bench --benchmark_min_time=0.01
-  /usr/bin/python3 -B bench/dxf_scripts.py build/drawings/round-back.dxf
+  build/bench/src/tarnwick-cli dxf samples/round-back.json -o build/written-by-scripts.dxf --defaults
+  /usr/bin/python3 -B bench/dxf_scripts.py build/written-by-scripts.dxf
   build/bench/bench/tarnwick_qt_bench --benchmark_min_time=0.01
   QT_QPA_PLATFORM=offscreen /usr/bin/python3 -B bench/start_bench.py build/bench/bench/tarnwick_start_window
 }
