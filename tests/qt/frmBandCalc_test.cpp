@@ -22,6 +22,7 @@
 #include "qt/Pixels.h"
 #include "store/modPath.h"
 #include "support/Machines.h"
+#include "support/NoPanels.h"
 #include "support/TestProgram.h"
 
 namespace tarnwick {
@@ -56,18 +57,6 @@ void Answer(const QString& title, const QString& typed) {
 }
 
 QString Array(const char* name, int row) { return QString("%1(%2)").arg(name).arg(row); }
-
-/// The panels of a main window that nobody looks at.
-class NoPanels final : public MainView {
- public:
-  void ShowPanel(Panel) override {}
-  [[nodiscard]] Panel CurrentPanel() const override { return Panel::Main; }
-  void ShowSawInfo() override {}
-  void FillBoxes() override {}
-  void ShowUnits() override {}
-  void DrawSaw() override {}
-  void ShowStatus(std::string_view, std::string_view) override {}
-};
 
 }  // namespace
 
@@ -454,7 +443,7 @@ void frmBandCalcTest::cancels() {
 
 /// The command of the menu, from its window to the design.
 void frmBandCalcTest::givesTheDesignItsLength() {
-  NoPanels panels;
+  test::NoPanels panels;
   BandSaw& saw = program_->Process.Design.Saw;
   saw = Machine(5, 10);
   Await([](QWidget& window) {

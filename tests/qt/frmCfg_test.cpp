@@ -1,107 +1,31 @@
-#include "shell/frmCfg.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <cstdlib>
-#include <memory>
-
-#include "platform/CollectedMessages.h"
-#include "platform/qt/ColourSwatch.h"
-#include "platform/qt/QtColorDialog.h"
-#include "platform/qt/QtMessages.h"
-#include "qt/Controls.h"
-#include "support/RecordingHelpViewer.h"
-#include "support/ScriptedColorDialog.h"
+#include "qt/OptionsBench.h"
 
 namespace tarnwick {
-namespace {
 
-using test::Named;
+using namespace test;
 
-enum Page { General, Colors, PrinterAndDxf, UserInformation };
-constexpr int Pages = 4;
-
-const QStringList NumberNames = {"txtDecimalPlaces", "txtDisplayPlaces", "txtDisplayScale"};
-const QStringList CustomerNames = {"txtName",       "txtAddress", "txtCity", "txtProvince", "txtCountry",
-                                   "txtPostalCode", "txtPhone",   "txtFax",  "txtEmail"};
-const QStringList SwatchNames = {"lblBackSample",   "lblSawSample",  "lblTextSample",
-                                 "lblCenterSample", "lblZoomSample", "lblDxfColor"};
-const QStringList ButtonNames = {"cmdOk", "cmdCancel", "cmdApply"};
-
-QStringList PageControls(int page) {
-  switch (page) {
-    case General:
-      return QStringList{"optImperial", "optMetric"} + NumberNames + QStringList{"chkQuickClick"};
-    case Colors:
-      return SwatchNames;
-    case PrinterAndDxf:
-      return {"hscPrintThick", "chkPrintPowerReq", "hscDxfMemory"};
-    default:
-      return CustomerNames;
-  }
-}
-
-constexpr Colour Orange = Rgb(255, 128, 0);
-
-}  // namespace
-
-class frmCfgTest : public QObject {
+// The options: what the window shows, takes over and gives up.
+class frmCfgTest : public QObject, private OptionsBench {
   Q_OBJECT
 
  private slots:
-  void init();
+  void init() { Begin(); }
   void cleanup() { Close(); }
 
   void hasItsFrames_data();
   void hasItsFrames();
   void showsTheSettingsInForce();
   void opensWithoutAChange();
-
   void enablesApplyByEachControl_data();
   void enablesApplyByEachControl();
   void takesTheUnits();
   void takesThePowerRequirements();
   void takesTheCustomerLines();
   void turnsQuickClickOffAndOn();
-
-  void readsANumberWhenItsBoxIsLeft_data();
-  void readsANumberWhenItsBoxIsLeft();
-  void readsANumberOnItsWayElsewhere_data();
-  void readsANumberOnItsWayElsewhere();
-  void putsARefusedNumberBack();
-  void staysWhenANumberIsRefused_data();
-  void staysWhenANumberIsRefused();
-  void showsTheMessageAboveItself();
-  void saysNothingOnTheWayOut_data();
-  void saysNothingOnTheWayOut();
-  void keepsTheBoxWhenAnotherWindowIsInUse();
-
   void setsTheLineThickness();
   void setsTheDxfSize_data();
   void setsTheDxfSize();
   void keepsADxfSizeOfNoPosition();
-
-  void picksEachColour_data();
-  void picksEachColour();
-  void keepsAColourWhenCancelled();
-  void picksTheDxfColour_data();
-  void picksTheDxfColour();
-  void opensTheColourDialogAboveItself();
-
   void appliesAndStays();
   void acceptsByOk_data();
   void acceptsByOk();
@@ -110,7 +34,6 @@ class frmCfgTest : public QObject {
   void cancels();
   void keepsWhatWasAppliedWhenCancelled();
   void opensTheManual();
-
   void namesEveryControl();
   void tabsInReadingOrder_data();
   void tabsInReadingOrder();
@@ -119,102 +42,7 @@ class frmCfgTest : public QObject {
   void clipsNothing_data();
   void clipsNothing();
   void scrollsWhereTheLettersAreTooLarge();
-
- private:
-  void Open() { Open(messages_); }
-  void Open(Messages& messages) { Open(messages, colours_); }
-  void Open(Messages& messages, ColorDialog& colours);
-  void Close();
-  void TurnTo(int page);
-  void TurnToPageOf(const QString& name);
-
-  template <class Control>
-  Control* Find(const QString& name) {
-    return Named<Control>(*window_, qPrintable(name));
-  }
-  QLineEdit* Box(const QString& name) { return Find<QLineEdit>(name); }
-  void Type(const QString& name, const QString& text);
-  void Press(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
-  void Tick(const char* box);
-  void Change(const QString& name);
-  bool ApplyEnabled() { return Find<QPushButton>("cmdApply")->isEnabled(); }
-  QString TextOf(const char* label) { return Find<QLabel>(label)->text(); }
-
-  Config inForce_;
-  int applied_ = 0;
-  CollectedMessages messages_;
-  test::ScriptedColorDialog colours_;
-  test::RecordingHelpViewer help_;
-  std::unique_ptr<OptionsDialog> dialog_;
-  std::unique_ptr<frmCfg> window_;
 };
-
-void frmCfgTest::init() {
-  inForce_ = {};
-  applied_ = 0;
-  messages_ = {};
-  colours_ = {};
-  help_ = {};
-}
-
-void frmCfgTest::Close() {
-  window_.reset();
-  dialog_.reset();
-}
-
-void frmCfgTest::Open(Messages& messages, ColorDialog& colours) {
-  Close();
-  dialog_ = std::make_unique<OptionsDialog>(
-      inForce_, [this] { ++applied_; }, messages);
-  window_ = std::make_unique<frmCfg>(*dialog_, colours, help_);
-  window_->show();
-  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-}
-
-void frmCfgTest::TurnTo(int page) {
-  auto* bar = Find<QTabWidget>("SSTab1")->tabBar();
-  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(page).center());
-  QCOMPARE(bar->currentIndex(), page);
-  QApplication::processEvents();
-}
-
-void frmCfgTest::TurnToPageOf(const QString& name) {
-  for (int page = 0; page < Pages; ++page) {
-    if (PageControls(page).contains(name)) TurnTo(page);
-  }
-  QVERIFY(Find<QWidget>(name)->isVisible());
-}
-
-void frmCfgTest::Type(const QString& name, const QString& text) {
-  QLineEdit* box = Box(name);
-  QTest::mouseClick(box, Qt::LeftButton);
-  box->selectAll();
-  if (text.isEmpty())
-    QTest::keyClick(box, Qt::Key_Delete);
-  else
-    QTest::keyClicks(box, text);
-}
-
-void frmCfgTest::Tick(const char* box) {
-  const QPoint mark(8, Find<QCheckBox>(box)->height() / 2);
-  QTest::mouseClick(Find<QCheckBox>(box), Qt::LeftButton, {}, mark);
-}
-
-/// Changes what a control shows, as a user would.
-void frmCfgTest::Change(const QString& name) {
-  auto* control = Find<QWidget>(name);
-  if (auto* text = qobject_cast<QLineEdit*>(control)) {
-    QTest::mouseClick(text, Qt::LeftButton);
-    QTest::keyClicks(text, "7");
-  } else if (qobject_cast<QScrollBar*>(control)) {
-    control->setFocus();
-    QTest::keyClick(control, Qt::Key_Right);
-  } else if (qobject_cast<QCheckBox*>(control) || qobject_cast<QRadioButton*>(control)) {
-    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
-  } else {
-    QTest::mouseClick(control, Qt::LeftButton);
-  }
-}
 
 // ---- what it shows
 
@@ -363,180 +191,6 @@ void frmCfgTest::turnsQuickClickOffAndOn() {
   QVERIFY(inForce_.QuickClick);
 }
 
-// ---- numbers
-
-void frmCfgTest::readsANumberWhenItsBoxIsLeft_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("typed");
-  QTest::addColumn<QString>("shown");
-  const auto row = [](const char* name, const char* typed, const char* shown) {
-    QTest::addRow("%s %s", name, typed) << name << typed << shown;
-  };
-  row("txtDecimalPlaces", "3", "4");
-  row("txtDecimalPlaces", "11", "10");
-  row("txtDecimalPlaces", "10", "10");
-  row("txtDecimalPlaces", "2*4", "8");
-  row("txtDisplayPlaces", "1", "2");
-  row("txtDisplayPlaces", "6", "5");
-  row("txtDisplayPlaces", "2", "2");
-  row("txtDisplayScale", "1.6", "1");
-  row("txtDisplayScale", "1.5", "1.5");
-  row("txtDisplayScale", "1/2", "0.5");
-  row("txtDisplayScale", "", "1");
-}
-
-void frmCfgTest::readsANumberWhenItsBoxIsLeft() {
-  QFETCH(QString, name);
-  QFETCH(QString, typed);
-  Open();
-  Type(name, typed);
-  QCOMPARE(Box(name)->text(), typed);
-  QVERIFY(ApplyEnabled());
-  QTest::keyClick(Box(name), Qt::Key_Tab);
-  QTEST(Box(name)->text(), "shown");
-  QVERIFY(ApplyEnabled());
-  QVERIFY(messages_.Shown.empty());
-}
-
-void frmCfgTest::readsANumberOnItsWayElsewhere_data() {
-  QTest::addColumn<int>("way");
-  QTest::newRow("back") << 0;
-  QTest::newRow("click on another box") << 1;
-  QTest::newRow("click on a check box") << 2;
-  QTest::newRow("another page") << 3;
-  QTest::newRow("Apply") << 4;
-  QTest::newRow("OK") << 5;
-  QTest::newRow("Enter") << 6;
-}
-
-void frmCfgTest::readsANumberOnItsWayElsewhere() {
-  QFETCH(int, way);
-  Open();
-  Type("txtDecimalPlaces", "3");
-  if (way == 0) QTest::keyClick(Box("txtDecimalPlaces"), Qt::Key_Backtab);
-  if (way == 1) QTest::mouseClick(Box("txtDisplayScale"), Qt::LeftButton);
-  if (way == 2) Tick("chkQuickClick");
-  if (way == 3) QTest::keyClick(window_->focusWidget(), Qt::Key_L, Qt::AltModifier);
-  if (way == 4) Press("cmdApply");
-  if (way == 5) Press("cmdOk");
-  if (way == 6) QTest::keyClick(Box("txtDecimalPlaces"), Qt::Key_Return);
-  QTRY_COMPARE(Box("txtDecimalPlaces")->text(), QString("4"));
-  QCOMPARE(applied_, way >= 4 ? 1 : 0);
-  QCOMPARE(window_->isVisible(), way < 5);
-}
-
-void frmCfgTest::putsARefusedNumberBack() {
-  for (const QString& name : NumberNames) {
-    init();
-    Open();
-    const QString before = Box(name)->text();
-    Type(name, "many");
-    QTest::keyClick(Box(name), Qt::Key_Tab);
-    QCOMPARE(Box(name)->text(), before);
-    QCOMPARE(messages_.Texts(), std::vector<std::string>{"Not a valid equation!"});
-    QVERIFY(!Box(name)->hasFocus());
-    Press("cmdOk");
-    QCOMPARE(messages_.Shown.size(), std::size_t{1});
-    QVERIFY(!window_->isVisible());
-  }
-}
-
-void frmCfgTest::staysWhenANumberIsRefused_data() {
-  QTest::addColumn<int>("way");
-  QTest::newRow("OK") << 0;
-  QTest::newRow("Apply") << 1;
-  QTest::newRow("Enter") << 2;
-  QTest::newRow("access key of OK") << 3;
-}
-
-void frmCfgTest::staysWhenANumberIsRefused() {
-  QFETCH(int, way);
-  Open();
-  Type("txtDisplayScale", "many");
-  if (way == 0) Press("cmdOk");
-  if (way == 1) Press("cmdApply");
-  if (way == 2) QTest::keyClick(Box("txtDisplayScale"), Qt::Key_Enter);
-  if (way == 3) QTest::keyClick(window_.get(), Qt::Key_O, Qt::AltModifier);
-  QTRY_COMPARE(messages_.Texts(), std::vector<std::string>{"Not a valid equation!"});
-  QTest::qWait(150);  // a button pressed by its access key takes a moment
-  QCOMPARE(messages_.Shown.size(), std::size_t{1});
-  QVERIFY(window_->isVisible());
-  QCOMPARE(Box("txtDisplayScale")->text(), QString("1"));
-  QCOMPARE(applied_, 0);
-}
-
-void frmCfgTest::showsTheMessageAboveItself() {
-  QtMessages messages;
-  Open(messages);
-  Type("txtDecimalPlaces", "many");
-  const QWidget* owner = nullptr;
-  QString text;
-  int boxes = 0;
-  QTimer watch;
-  connect(&watch, &QTimer::timeout, this, [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box) return;
-    ++boxes;
-    owner = box->parentWidget();
-    text = box->text();
-    box->button(QMessageBox::Ok)->click();
-  });
-  watch.start(10);
-  // It waits for the end of the click, which counts.
-  auto* other = Find<QCheckBox>("chkQuickClick");
-  const QPoint mark(8, other->height() / 2);
-  QTest::mousePress(other, Qt::LeftButton, {}, mark);
-  QTest::qWait(60);
-  QCOMPARE(boxes, 0);
-  QTest::mouseRelease(other, Qt::LeftButton, {}, mark);
-  QTRY_COMPARE(boxes, 1);
-  QCOMPARE(owner, window_.get());
-  QCOMPARE(text, QString("Not a valid equation!"));
-  QCOMPARE(Box("txtDecimalPlaces")->text(), QString("5"));
-  QVERIFY(other->isChecked());
-  QVERIFY(!other->isDown());
-  QTest::qWait(60);
-  QCOMPARE(boxes, 1);
-}
-
-void frmCfgTest::saysNothingOnTheWayOut_data() {
-  QTest::addColumn<int>("way");
-  QTest::newRow("cmdCancel") << 0;
-  QTest::newRow("Escape") << 1;
-  QTest::newRow("the window's button") << 2;
-  QTest::newRow("access key") << 3;
-  QTest::newRow("cmdCancel by keys") << 4;
-}
-
-void frmCfgTest::saysNothingOnTheWayOut() {
-  QFETCH(int, way);
-  Open();
-  Type("txtDisplayScale", "many");
-  if (way == 0) Press("cmdCancel");
-  if (way == 1) QTest::keyClick(Box("txtDisplayScale"), Qt::Key_Escape);
-  if (way == 2) QVERIFY(window_->close());
-  if (way == 3) QTest::keyClick(window_.get(), Qt::Key_C, Qt::AltModifier);
-  if (way == 4) {
-    Find<QPushButton>("cmdCancel")->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
-  }
-  QTRY_VERIFY(!window_->isVisible());
-  QTest::qWait(20);
-  QVERIFY(messages_.Shown.empty());
-  QVERIFY(!dialog_->IsOpen());
-  QCOMPARE(applied_, 0);
-}
-
-void frmCfgTest::keepsTheBoxWhenAnotherWindowIsInUse() {
-  Open();
-  Type("txtDecimalPlaces", "3");
-  QDialog other(window_.get());
-  other.show();
-  other.activateWindow();
-  QVERIFY(QTest::qWaitForWindowActive(&other));
-  QCOMPARE(Box("txtDecimalPlaces")->text(), QString("3"));
-}
-
 // ---- bars
 
 void frmCfgTest::setsTheLineThickness() {
@@ -610,118 +264,6 @@ void frmCfgTest::keepsADxfSizeOfNoPosition() {
   Change("optMetric");
   Press("cmdOk");
   QCOMPARE(inForce_.Calculation.MemorySize, 100000);
-}
-
-// ---- colours
-
-void frmCfgTest::picksEachColour_data() {
-  QTest::addColumn<QString>("sample");
-  QTest::addColumn<QString>("text");
-  QTest::addColumn<int>("which");
-  const auto row = [](const char* caption, const char* sample, const char* text, int which) {
-    QTest::newRow(caption) << sample << text << which;
-  };
-  row("lblBackColor", "lblBackSample", "Background Color of View Windows:", 0);
-  row("lblSawColor", "lblSawSample", "Saw Outline Color in View Windows:", 1);
-  row("lblTextColor", "lblTextSample", "Text Color in View Windows:", 2);
-  row("lblCenterColor", "lblCenterSample", "Center Line Color in View Windows:", 3);
-  row("lblZoomColor", "lblZoomSample", "Right Mouse Button Zoom Window Color:", 4);
-}
-
-void frmCfgTest::picksEachColour() {
-  constexpr Colour DisplaySettings::*settings[] = {
-      &DisplaySettings::BackGroundColor, &DisplaySettings::SawLineColor, &DisplaySettings::TextColor,
-      &DisplaySettings::CenterLineColor, &DisplaySettings::ZoomWindowColor};
-  QFETCH(QString, sample);
-  QFETCH(int, which);
-  const Colour before = inForce_.Display.*settings[which];
-  const Colour first = Rgb(1, 2, 3), second = Rgb(4, 5, 6), third = Rgb(7, 8, 9);
-  colours_.Answers = {first, second, third};
-  Open();
-  TurnTo(Colors);
-  auto* caption = Find<QLabel>(QTest::currentDataTag());
-  auto* swatch = Find<ColourSwatch>(sample);
-  QTEST(caption->text(), "text");
-  QVERIFY(swatch->Shown() == before);
-  QTest::mouseClick(caption, Qt::LeftButton);
-  QVERIFY(swatch->Shown() == first);
-  QTest::mouseClick(swatch, Qt::LeftButton);
-  QVERIFY(swatch->Shown() == second);
-  QVERIFY(swatch->hasFocus());
-  QTest::keyClick(swatch, Qt::Key_Space);
-  QVERIFY(swatch->Shown() == third);
-  QVERIFY(colours_.OpenedOn == std::vector<Colour>({before, first, second}));
-  QVERIFY(inForce_.Display.*settings[which] == before);
-  Press("cmdOk");
-  QVERIFY(inForce_.Display.*settings[which] == third);
-}
-
-void frmCfgTest::keepsAColourWhenCancelled() {
-  Open();
-  TurnTo(Colors);
-  QTest::mouseClick(Find<ColourSwatch>("lblSawSample"), Qt::LeftButton);
-  QCOMPARE(colours_.OpenedOn.size(), std::size_t{1});
-  QVERIFY(Find<ColourSwatch>("lblSawSample")->Shown() == inForce_.Display.SawLineColor);
-  QVERIFY(!ApplyEnabled());
-}
-
-void frmCfgTest::picksTheDxfColour_data() {
-  QTest::addColumn<bool>("ok");
-  for (const char* name : {"lblDxfSaveColor", "lblDxfColor"}) {
-    QTest::addRow("%s", name) << true;
-    QTest::addRow("%s, cancelled", name) << false;
-  }
-}
-
-void frmCfgTest::picksTheDxfColour() {
-  QFETCH(bool, ok);
-  const QString name = QString(QTest::currentDataTag()).section(',', 0, 0);
-  Open();
-  TurnTo(Colors);
-  QCOMPARE(TextOf("lblDxfSaveColor"), QString("Color to save Dxf files with :"));
-  const QWidget* owner = nullptr;
-  QTimer::singleShot(0, this, [&] {
-    QWidget* window = QApplication::activeModalWidget();
-    if (!window || window->objectName() != "frmColor") return;
-    owner = window->parentWidget();
-    QTest::mouseClick(Named<QWidget>(*window, "lblColor(1)"), Qt::LeftButton);
-    QTest::mouseClick(Named<QPushButton>(*window, ok ? "cmdOk" : "cmdCancel"), Qt::LeftButton);
-  });
-  QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton);
-  QCOMPARE(owner, window_.get());
-  QVERIFY(colours_.OpenedOn.empty());
-  const int number = ok ? 1 : 5;
-  QCOMPARE(Find<ColourSwatch>("lblDxfColor")->text(), QString::number(number));
-  QVERIFY(Find<ColourSwatch>("lblDxfColor")->Shown() == DxfPaletteColour(number));
-  QCOMPARE(ApplyEnabled(), ok);
-  Press("cmdOk");
-  QCOMPARE(int(inForce_.Calculation.DxfSaveColor), number);
-}
-
-void frmCfgTest::opensTheColourDialogAboveItself() {
-  QtColorDialog colours;
-  Open(messages_, colours);
-  TurnTo(Colors);
-  const auto answer = [this](bool ok) {
-    QTimer::singleShot(0, this, [this, ok] {
-      auto* chooser = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-      if (!chooser) return;
-      QCOMPARE(chooser->parentWidget(), window_.get());
-      QCOMPARE(chooser->currentColor(), QColor(0, 255, 255));
-      chooser->setCurrentColor(QColor(255, 128, 0));
-      if (ok)
-        chooser->accept();
-      else
-        chooser->reject();
-    });
-    QTest::mouseClick(Find<ColourSwatch>("lblSawSample"), Qt::LeftButton);
-  };
-  answer(false);
-  QVERIFY(Find<ColourSwatch>("lblSawSample")->Shown() == Rgb(0, 255, 255));
-  QVERIFY(!ApplyEnabled());
-  answer(true);
-  QVERIFY(Find<ColourSwatch>("lblSawSample")->Shown() == Orange);
-  QVERIFY(ApplyEnabled());
 }
 
 // ---- Apply, OK, Cancel

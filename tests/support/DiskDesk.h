@@ -11,6 +11,7 @@
 #include "shell/DocumentCommands.h"
 #include "store/modPath.h"
 #include "store/modSettingsFile.h"
+#include "support/NoPanels.h"
 #include "support/RecordingHelpViewer.h"
 #include "support/RecordingTrash.h"
 #include "support/ScriptedColorDialog.h"
@@ -23,7 +24,7 @@ namespace tarnwick::test {
 class DiskDesk final : public Messages,
                        public FileDialogs,
                        public DialogHost,
-                       public MainView,
+                       public NoPanels,
                        public DocumentView {
  public:
   explicit DiskDesk(const std::filesystem::path& folder)
@@ -66,13 +67,6 @@ class DiskDesk final : public Messages,
   void Run(ValueDialog& dialog) override { dialog.PressCancel(); }
   void Run(YesNoDialog& dialog) override { dialog.PressCancel(); }
 
-  void ShowPanel(Panel) override {}
-  [[nodiscard]] Panel CurrentPanel() const override { return Panel::Main; }
-  void ShowSawInfo() override {}
-  void FillBoxes() override {}
-  void ShowUnits() override {}
-  void DrawSaw() override {}
-  void ShowStatus(std::string_view, std::string_view) override {}
   void ShowCaption() override {}
   void ShowRecentFiles() override {}
   void ShowTeethDirection() override {}
