@@ -1,53 +1,16 @@
-#include "entry/frmCDialog.h"
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QTest>
-#include <QTimer>
-#include <functional>
-#include <memory>
-
-#include "entry/modCalculate.h"
-#include "entry/modPresetList.h"
-#include "platform/qt/PictureBox.h"
-#include "platform/qt/QtMessages.h"
-#include "platform/qt/QtText.h"
-#include "qt/Controls.h"
-#include "support/CollectedMessages.h"
-#include "support/RecordingHelpViewer.h"
+#include "qt/DialogBench.h"
 
 namespace tarnwick {
-namespace {
 
-using test::Named;
+using namespace test;
 
-const QStringList Controls = {"lblDisplay", "PicDisplay", "ListValues", "txtValue",
-                              "cmdOk",      "cmdCancel",  "cmdHelp",    "lblStatus"};
-
-const DisplayFormat MetricFormat{.ImpMetric = Metric};
-
-/// Looks at the window while a message is shown.
-class WatchedMessages final : public Messages {
- public:
-  Button Show(const Box& box) override {
-    Look(box);
-    return box.Default;
-  }
-  std::function<void(const Box&)> Look;
-};
-
-}  // namespace
-
-class frmCDialogTest : public QObject {
+// What the dialog for a value shows, lists and takes.
+class frmCDialogTest : public QObject, private DialogBench {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
+  void init() { Begin(); }
+  void cleanup() { End(); }
 
   void asksForEachParameter_data();
   void asksForEachParameter();
@@ -55,7 +18,6 @@ class frmCDialogTest : public QObject {
   void picksThePictureByTheToothStyle();
   void hasAPictureForEveryKey_data() { asksForEachParameter_data(); }
   void hasAPictureForEveryKey();
-
   void showsTheNumberWithoutItsUnitAfterAClick();
   void readsFeetAndInchesOfAnEntry();
   void readsAClickOnTheChosenEntryAgain();
@@ -64,7 +26,6 @@ class frmCDialogTest : public QObject {
   void stepsIntoTheListFromTheBox();
   void takesADoubleClickForAClickAndOk();
   void forgetsTheChoiceWhenTyped();
-
   void evaluatesOnEnter_data();
   void evaluatesOnEnter();
   void evaluatesOnOk();
@@ -76,122 +37,17 @@ class frmCDialogTest : public QObject {
   void keepsTheTextWhileTheMessageIsShown();
   void showsTheMessageAboveItself();
   void judgesNoRange();
-
   void givesNothingWhenCancelled_data();
   void givesNothingWhenCancelled();
   void opensItsHelpTopic_data();
   void opensItsHelpTopic();
-
-  void takesANameAsItIs_data();
-  void takesANameAsItIs();
-  void showsThePictureOfTheChoice_data();
-  void showsThePictureOfTheChoice();
-  void emptiesThePictureOfAStyleWithoutOne();
-  void refusesTheHeadingsOfTheWoods();
-  void hasAnEmptyEntryAheadOfTheHardwoods();
-  void widensListAndBoxForTheWoods();
-
-  void hintsAtTheControlUnderTheMouse_data();
-  void hintsAtTheControlUnderTheMouse();
-  void takesTheHintBackWhenTheMouseLeaves();
-  void hintsAtTheControlReachedByTab();
-
   void namesEveryControl();
   void tabsInReadingOrder();
   void hasAccessKeys();
   void alignsListAndBox();
   void clipsNothing_data();
   void clipsNothing();
-
- private:
-  void Open(Parameter parameter, const DisplayFormat& format = {}, int toothStyle = SquareBack);
-  void Open(Parameter parameter, Messages& messages);
-  void Show(ValueDialog dialog);
-
-  void Type(const char* text) { QTest::keyClicks(txtValue_, text); }
-  void Press(const char* button) { QTest::mouseClick(Named<QPushButton>(*window_, button), Qt::LeftButton); }
-  QPoint PlaceOf(int row);
-  void Click(int row) { QTest::mouseClick(ListValues_->viewport(), Qt::LeftButton, {}, PlaceOf(row)); }
-  void DoubleClick(int row);
-  int RowOfEntry(const char* text);
-  QString ChosenEntry();
-
-  void IsOpenAndEmpty();
-  void IsClosedWith(const char* result);
-
-  CollectedMessages messages_;
-  test::RecordingHelpViewer help_;
-  std::unique_ptr<ValueDialog> dialog_;
-  std::unique_ptr<frmCDialog> window_;
-  QListWidget* ListValues_ = nullptr;
-  QLineEdit* txtValue_ = nullptr;
-  PictureBox* PicDisplay_ = nullptr;
-  QLabel* lblStatus_ = nullptr;
 };
-
-void frmCDialogTest::init() {
-  messages_ = {};
-  help_ = {};
-}
-
-void frmCDialogTest::cleanup() {
-  window_.reset();
-  dialog_.reset();
-}
-
-void frmCDialogTest::Show(ValueDialog dialog) {
-  window_.reset();
-  dialog_ = std::make_unique<ValueDialog>(std::move(dialog));
-  window_ = std::make_unique<frmCDialog>(*dialog_, help_);
-  ListValues_ = Named<QListWidget>(*window_, "ListValues");
-  txtValue_ = Named<QLineEdit>(*window_, "txtValue");
-  PicDisplay_ = Named<PictureBox>(*window_, "PicDisplay");
-  lblStatus_ = Named<QLabel>(*window_, "lblStatus");
-  window_->show();
-  QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-}
-
-void frmCDialogTest::Open(Parameter parameter, const DisplayFormat& format, int toothStyle) {
-  Show(PrepareDialog(parameter, toothStyle, format, messages_));
-}
-
-void frmCDialogTest::Open(Parameter parameter, Messages& messages) {
-  Show(PrepareDialog(parameter, SquareBack, {}, messages));
-}
-
-QPoint frmCDialogTest::PlaceOf(int row) {
-  QListWidgetItem* entry = ListValues_->item(row);
-  ListValues_->scrollToItem(entry);
-  return ListValues_->visualItemRect(entry).center();
-}
-
-void frmCDialogTest::DoubleClick(int row) {
-  Click(row);
-  QTest::mouseDClick(ListValues_->viewport(), Qt::LeftButton, {}, PlaceOf(row));
-}
-
-int frmCDialogTest::RowOfEntry(const char* text) {
-  const QList<QListWidgetItem*> found = ListValues_->findItems(text, Qt::MatchExactly);
-  return found.size() == 1 ? ListValues_->row(found.first()) : -1;
-}
-
-QString frmCDialogTest::ChosenEntry() {
-  const QList<QListWidgetItem*> chosen = ListValues_->selectedItems();
-  return chosen.isEmpty() ? QString() : chosen.first()->text();
-}
-
-void frmCDialogTest::IsOpenAndEmpty() {
-  QVERIFY(window_->isVisible());
-  QVERIFY(dialog_->IsOpen());
-  QVERIFY(dialog_->Result().empty());
-  QCOMPARE(txtValue_->text(), QString());
-}
-
-void frmCDialogTest::IsClosedWith(const char* result) {
-  QTRY_VERIFY(!window_->isVisible());  // a button pressed by its access key takes a moment
-  QVERIFY(!dialog_->IsOpen());
-  QCOMPARE(ToQt(dialog_->Result()), QString(result));
-}
 
 // ---- what it shows
 
@@ -531,183 +387,6 @@ void frmCDialogTest::opensItsHelpTopic() {
   QTRY_COMPARE(help_.Asked, std::vector<std::string>(4, asked.toStdString()));
   QVERIFY(window_->isVisible());
   QCOMPARE(txtValue_->text(), QString("7"));
-}
-
-// ---- names
-
-void frmCDialogTest::takesANameAsItIs_data() {
-  QTest::addColumn<int>("parameter");
-  QTest::addColumn<QString>("typed");
-  QTest::newRow("style") << int(Parameter::ToothStyle) << "Square Back";
-  QTest::newRow("no style") << int(Parameter::ToothStyle) << "2+3";
-  QTest::newRow("tip") << int(Parameter::TipType) << "Carbide";
-  QTest::newRow("join") << int(Parameter::JoinStyle) << "Overlaped Join";
-  QTest::newRow("a wood of nobody's list") << int(Parameter::TypeOfWood) << "Bog oak, 1/2 dry (";
-}
-
-void frmCDialogTest::takesANameAsItIs() {
-  QFETCH(int, parameter);
-  QFETCH(QString, typed);
-  for (const bool byEnter : {true, false}) {
-    Open(Parameter(parameter));
-    QTest::keyClicks(txtValue_, typed);
-    if (byEnter)
-      QTest::keyClick(txtValue_, Qt::Key_Return);
-    else
-      Press("cmdOk");
-    IsClosedWith(typed.toUtf8().constData());
-    QVERIFY(messages_.Shown.empty());
-  }
-}
-
-void frmCDialogTest::showsThePictureOfTheChoice_data() {
-  QTest::addColumn<int>("parameter");
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("key");
-  const auto row = [](Parameter parameter, const char* name, const char* key) {
-    QTest::newRow(name) << int(parameter) << name << key;
-  };
-  row(Parameter::ToothStyle, "Square Back", "SqrBack");
-  row(Parameter::ToothStyle, "Round Back", "RndBack");
-  row(Parameter::ToothStyle, "Double Radius", "GuDouble");
-  row(Parameter::ToothStyle, "Triple Radius", "GuTriple");
-  row(Parameter::ToothStyle, "Flat Bottom", "GuFlatBo");
-  row(Parameter::ToothStyle, "Narrow Style", "GuNarrow");
-  row(Parameter::ToothStyle, "O Shape", "GuOShape");
-  row(Parameter::TipType, "None", "TipNone");
-  row(Parameter::TipType, "Stellite", "TipStel");
-  row(Parameter::TipType, "Swagged", "TipSwag");
-  row(Parameter::TipType, "Carbide", "TipCarb");
-  row(Parameter::JoinStyle, "Right Angle Join", "RightAng");
-  row(Parameter::JoinStyle, "Overlaped Join", "Overlap");
-}
-
-void frmCDialogTest::showsThePictureOfTheChoice() {
-  QFETCH(int, parameter);
-  QFETCH(QString, name);
-  QFETCH(QString, key);
-  Open(Parameter(parameter));
-  Click(RowOfEntry(name.toUtf8().constData()));
-  QCOMPARE(txtValue_->text(), name);
-  QCOMPARE(PicDisplay_->Key(), key.toStdString());
-  QVERIFY(!PicDisplay_->IsEmpty());
-  Press("cmdOk");
-  IsClosedWith(name.toUtf8().constData());
-}
-
-void frmCDialogTest::emptiesThePictureOfAStyleWithoutOne() {
-  Open(Parameter::ToothStyle);
-  QVERIFY(!PicDisplay_->IsEmpty());
-  Click(RowOfEntry("Frost Tooth"));
-  QCOMPARE(txtValue_->text(), QString("Frost Tooth"));
-  QVERIFY(PicDisplay_->IsEmpty());
-  QVERIFY(PicDisplay_->isVisible());
-  QTest::keyClick(ListValues_, Qt::Key_Up);
-  QCOMPARE(PicDisplay_->Key(), std::string("GuOShape"));
-}
-
-void frmCDialogTest::refusesTheHeadingsOfTheWoods() {
-  Open(Parameter::TypeOfWood);
-  for (const char* heading : {"Softwoods:", "Hardwoods:"}) {
-    Click(RowOfEntry("Cypress"));
-    Click(RowOfEntry(heading));
-    QCOMPARE(txtValue_->text(), QString("Cypress"));
-    DoubleClick(RowOfEntry(heading));
-    QCOMPARE(txtValue_->text(), QString("Cypress"));
-    QVERIFY(window_->isVisible());
-  }
-  // Keys pass over them.
-  Click(RowOfEntry("Alder"));
-  QTest::keyClick(ListValues_, Qt::Key_Up);
-  QCOMPARE(ListValues_->currentRow(), RowOfEntry("Hardwoods:") - 1);
-  QTest::keyClick(ListValues_, Qt::Key_Home);
-  QCOMPARE(txtValue_->text(), QString("Cedar (Eastern Red)"));
-}
-
-void frmCDialogTest::hasAnEmptyEntryAheadOfTheHardwoods() {
-  Open(Parameter::TypeOfWood);
-  const int heading = RowOfEntry("Hardwoods:");
-  QVERIFY(heading > 0);
-  QCOMPARE(ListValues_->item(heading - 1)->text(), QString());
-  Click(RowOfEntry("Cypress"));
-  Click(heading - 1);
-  QCOMPARE(txtValue_->text(), QString());
-  Press("cmdOk");
-  IsOpenAndEmpty();
-  QCOMPARE(RowOfEntry("Oak (Southern Red)"), -1);
-}
-
-void frmCDialogTest::widensListAndBoxForTheWoods() {
-  Open(Parameter::GulletDepth);
-  QVERIFY(PicDisplay_->isVisible());
-  const int list = ListValues_->width();
-  const int box = txtValue_->width();
-  Open(Parameter::TypeOfWood);
-  QVERIFY(!PicDisplay_->isVisible());
-  QVERIFY(ListValues_->width() > list * 3 / 2);
-  QVERIFY(txtValue_->width() > box * 3 / 2);
-}
-
-// ---- hints
-
-void frmCDialogTest::hintsAtTheControlUnderTheMouse_data() {
-  QTest::addColumn<QString>("control");
-  QTest::addColumn<QString>("hint");
-  QTest::newRow("cmdOk") << "cmdOk"
-                         << "Click to accept value in text box.";
-  QTest::newRow("cmdCancel") << "cmdCancel"
-                             << "Click to cancel.";
-  QTest::newRow("ListValues") << "ListValues"
-                              << "Click to select value.";
-  QTest::newRow("txtValue") << "txtValue"
-                            << "Enter value here. Press enter to calculate.";
-  QTest::newRow("cmdHelp") << "cmdHelp"
-                           << "";
-  QTest::newRow("PicDisplay") << "PicDisplay"
-                              << "";
-  QTest::newRow("lblDisplay") << "lblDisplay"
-                              << "";
-}
-
-void frmCDialogTest::hintsAtTheControlUnderTheMouse() {
-  QFETCH(QString, control);
-  QFETCH(QString, hint);
-  Open(Parameter::GulletDepth);
-  auto* widget = Named<QWidget>(*window_, control.toUtf8().constData());
-  const QPoint middle = widget->mapTo(window_.get(), widget->rect().center());
-  const QPoint margin(3, window_->height() / 2);
-  QTest::mouseMove(window_->windowHandle(), margin);
-  QTest::mouseMove(window_->windowHandle(), middle);
-  QTRY_COMPARE(lblStatus_->text(), hint);
-  QTest::mouseMove(window_->windowHandle(), middle + QPoint(2, 2));
-  QTRY_COMPARE(lblStatus_->text(), hint);
-  QTest::mouseMove(window_->windowHandle(), margin);
-  QTRY_COMPARE(lblStatus_->text(), QString());
-
-  QWidget* surface = window_->childAt(middle);  // of a list: the part that takes the mouse
-  QTest::mouseMove(surface);
-  QTRY_COMPARE(lblStatus_->text(), hint);
-}
-
-void frmCDialogTest::takesTheHintBackWhenTheMouseLeaves() {
-  Open(Parameter::GulletDepth);
-  auto* cmdOk = Named<QPushButton>(*window_, "cmdOk");
-  QTest::mouseMove(window_->windowHandle(), cmdOk->geometry().center());
-  QTRY_COMPARE(lblStatus_->text(), QString("Click to accept value in text box."));
-  QEvent leave(QEvent::Leave);
-  QApplication::sendEvent(cmdOk, &leave);
-  QCOMPARE(lblStatus_->text(), QString());
-}
-
-void frmCDialogTest::hintsAtTheControlReachedByTab() {
-  Open(Parameter::GulletDepth);
-  QTest::keyClick(txtValue_, Qt::Key_Tab);
-  QCOMPARE(lblStatus_->text(), QString("Click to accept value in text box."));
-  QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
-  QCOMPARE(lblStatus_->text(), QString("Click to cancel."));
-  QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
-  QCOMPARE(lblStatus_->text(), QString());
-  QCOMPARE(ListValues_->accessibleDescription(), QString("Click to select value."));
 }
 
 // ---- order and looks
