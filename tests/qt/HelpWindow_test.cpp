@@ -1,99 +1,16 @@
-#include <QAccessible>
-#include <QApplication>
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QHelpContentWidget>
-#include <QHelpIndexWidget>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QScreen>
-#include <QScrollBar>
-#include <QSet>
-#include <QTabWidget>
-#include <QTest>
-#include <QTextBlock>
-#include <QTextBrowser>
-#include <QTimer>
-#include <QToolButton>
-#include <QWindow>
-#include <functional>
-#include <memory>
-
-#include "entry/modParameter.h"
-#include "platform/qt/QtHelpViewer.h"
-#include "platform/qt/QtText.h"
-#include "support/TemporaryFolder.h"
+#include "qt/HelpBench.h"
 
 namespace tarnwick {
-namespace {
 
-constexpr auto ContentsAddress = "contents.html";
+using namespace test;
 
-/// The help window, wherever it is; none before the first question.
-QWidget* Window() {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == "frmHelp") return window;
-  }
-  return nullptr;
-}
-
-template <typename Control>
-Control* Find(const char* name) {
-  auto* found = Window()->findChild<Control*>(name);
-  if (!found) qFatal("no control %s", name);
-  return found;
-}
-
-QTextBrowser* Page() { return Find<QTextBrowser>("txtHelpPage"); }
-QString Title() { return Page()->documentTitle(); }
-QString Address() { return Page()->source().fileName(); }
-
-void Press(const char* button) { QTest::mouseClick(Find<QToolButton>(button), Qt::LeftButton); }
-
-void ShowPane(const char* caption) {
-  auto* panes = Find<QTabWidget>("tabHelp");
-  for (int i = 0; i < panes->count(); ++i) {
-    if (panes->tabText(i) == caption) return panes->setCurrentIndex(i);
-  }
-  qFatal("no pane %s", caption);
-}
-
-/// Shows `dialog` until `user` is done with it.
-void WhileAsking(QDialog& dialog, const std::function<void()>& user) {
-  bool done = false;
-  QTimer::singleShot(0, [&] {
-    user();
-    done = true;
-    dialog.reject();
-  });
-  dialog.exec();
-  if (!done) qFatal("the dialog did not wait");
-}
-
-/// Whether a key press gets through to the window.
-bool TakesKeys(QWidget& window) {
-  window.activateWindow();
-  if (!QTest::qWaitForWindowActive(&window)) return false;
-  auto* words = Find<QLineEdit>("txtHelpIndex");
-  ShowPane("&Index");
-  words->setFocus();
-  words->clear();
-  for (const char key : {'s', 'a', 'w'}) QTest::keyClick(window.windowHandle(), key);
-  return words->text() == "saw";
-}
-
-}  // namespace
-
-class HelpWindowTest : public QObject {
+// The window of the manual: topics, finding, pages.
+class HelpWindowTest : public QObject, private HelpBench {
   Q_OBJECT
 
  private slots:
-  void init();
-  void cleanup();
+  void init() { Begin(); }
+  void cleanup() { End(); }
 
   void opensThePageOfEveryTopic_data();
   void opensThePageOfEveryTopic();
@@ -103,7 +20,7 @@ class HelpWindowTest : public QObject {
   void keepsThePageWhenTheIndexIsAskedFor();
   void reachesEveryPageThroughItsContents();
   void jumpsFromTheIndex();
-  void searchesTheText();
+  void searchesTheText() { SearchTheText(); }
   void searchesBeforeAllPagesAreRead();
   void saysThatNoPageHasTheWords();
   void goesBackForwardAndHome();
@@ -116,35 +33,7 @@ class HelpWindowTest : public QObject {
   void comesBackWhenMinimised();
   void staysOneWindow();
   void doesNotKeepTheProgramRunning();
-  void isUsableAboveTheDialogThatAskedForIt();
-  void staysAboveTheDialogAndBesideIt();
-  void staysUsableWhenADialogOpens();
-  void staysUsableBetweenNestedDialogs();
-  void waitsForABoxOfItsOwn();
-  void unpacksOnceAndKeepsItForLater();
-  void worksWithoutAFolderToKeepThingsIn();
-  void letsTwoProgramsReadAtOnce();
-  void mendsADamagedCopy();
-  void saysWhyThereIsNoManual();
-  void namesEveryControl();
-
- private:
-  [[nodiscard]] QString Cache() const { return QString::fromStdString(folder_->Path().string()); }
-  HelpFiles Files() const { return {.CacheFolder = Cache()}; }
-
-  std::unique_ptr<test::TemporaryFolder> folder_;
-  std::unique_ptr<QtHelpViewer> help_;
 };
-
-void HelpWindowTest::init() {
-  folder_ = std::make_unique<test::TemporaryFolder>();
-  help_ = std::make_unique<QtHelpViewer>(Files());
-}
-
-void HelpWindowTest::cleanup() {
-  help_.reset();
-  folder_.reset();
-}
 
 // ---- topics
 
@@ -233,19 +122,6 @@ void HelpWindowTest::jumpsFromTheIndex() {
   const QString byIndex = Address();
   help_->ShowTopic(213);
   QCOMPARE(Address(), byIndex);
-}
-
-void HelpWindowTest::searchesTheText() {
-  help_->ShowContents();
-  ShowPane("&Search");
-  QTest::keyClicks(Find<QLineEdit>("txtHelpSearch"), "gullet");
-  auto* pages = Find<QListWidget>("lstHelpSearch");
-  QTRY_VERIFY(pages->count() > 0);
-  QCOMPARE(Find<QLabel>("lblHelpSearch")->text(), QString("Pages found: %1").arg(pages->count()));
-  QCOMPARE(Address(), QString(ContentsAddress));  // nothing opens by itself
-  QTest::mouseClick(pages->viewport(), Qt::LeftButton, {}, pages->visualItemRect(pages->item(0)).center());
-  QVERIFY(Page()->toPlainText().contains("gullet", Qt::CaseInsensitive));
-  QCOMPARE(Title(), pages->item(0)->text());
 }
 
 void HelpWindowTest::searchesBeforeAllPagesAreRead() {
@@ -460,194 +336,6 @@ void HelpWindowTest::doesNotKeepTheProgramRunning() {
   QTimer::singleShot(0, &other, &QWidget::close);
   QTimer::singleShot(5000, qApp, [] { QApplication::exit(1); });
   QCOMPARE(QApplication::exec(), 0);
-}
-
-// ---- dialogs
-
-void HelpWindowTest::isUsableAboveTheDialogThatAskedForIt() {
-  QWidget desk;
-  desk.show();
-  QDialog dialog(&desk);
-  WhileAsking(dialog, [&] {
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    help_->ShowTopic(213);
-    QVERIFY(QTest::qWaitForWindowActive(Window()));
-    QVERIFY(TakesKeys(*Window()));
-    help_->ShowTopic(200);
-    QTest::mouseClick(Window()->windowHandle(), Qt::LeftButton, {},
-                      Find<QToolButton>("cmdHelpBack")->mapTo(Window(), QPoint(5, 5)));
-    const QString gullet = Address();
-    help_->ShowTopic(213);
-    QCOMPARE(Address(), gullet);
-  });
-  QVERIFY(Window()->isVisible());  // it stays when the dialog goes
-  QVERIFY(TakesKeys(*Window()));
-}
-
-void HelpWindowTest::staysAboveTheDialogAndBesideIt() {
-  QWidget desk;
-  desk.show();
-  for (const QPoint corner : {QPoint(10, 20), QPoint(900, 400)}) {
-    QDialog dialog(&desk);
-    dialog.resize(300, 200);
-    dialog.move(corner);
-    WhileAsking(dialog, [&] {
-      help_->ShowTopic(213);
-      QCOMPARE(Window()->windowType(), Qt::Dialog);
-      QCOMPARE(Window()->windowHandle()->transientParent(), dialog.windowHandle());
-      QVERIFY(!Window()->frameGeometry().intersects(dialog.frameGeometry()));
-      QVERIFY(Window()->screen()->availableGeometry().contains(Window()->frameGeometry()));
-    });
-    const QPoint place = Window()->pos();
-    help_->ShowTopic(200);  // a window like any other again, where it was
-    QCOMPARE(Window()->windowType(), Qt::Window);
-    QVERIFY(!Window()->windowHandle()->transientParent());
-    QCOMPARE(Window()->pos(), place);
-    Window()->close();
-  }
-}
-
-void HelpWindowTest::staysUsableWhenADialogOpens() {
-  help_->ShowTopic(213);
-  for (int time = 0; time < 2; ++time) {
-    QMessageBox box;
-    WhileAsking(box, [&] {
-      QVERIFY(QTest::qWaitForWindowExposed(&box));
-      QVERIFY(TakesKeys(*Window()));
-    });
-  }
-  QVERIFY(TakesKeys(*Window()));
-}
-
-void HelpWindowTest::staysUsableBetweenNestedDialogs() {
-  QWidget desk;
-  desk.show();
-  QDialog outer(&desk);
-  WhileAsking(outer, [&] {
-    help_->ShowTopic(213);
-    {
-      QMessageBox inner(&outer);
-      WhileAsking(inner, [&] { QVERIFY(TakesKeys(*Window())); });
-    }
-    QVERIFY(TakesKeys(*Window()));
-    // Opened anew above the outer one, and above a second inner one.
-    Window()->close();
-    QMessageBox inner(&outer);
-    WhileAsking(inner, [&] {
-      help_->ShowTopic(213);
-      QVERIFY(TakesKeys(*Window()));
-    });
-    QVERIFY(TakesKeys(*Window()));
-  });
-  QVERIFY(TakesKeys(*Window()));
-}
-
-void HelpWindowTest::waitsForABoxOfItsOwn() {
-  help_->ShowContents();
-  QMessageBox box(Window());
-  WhileAsking(box, [&] {
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-    const QString before = Address();
-    QTest::mouseClick(Window()->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
-    QCOMPARE(Address(), before);
-  });
-  QVERIFY(TakesKeys(*Window()));
-}
-
-// ---- files
-
-namespace {
-
-QStringList FoldersOf(const QString& cache) {
-  return QDir(cache + "/help").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-}
-
-}  // namespace
-
-void HelpWindowTest::unpacksOnceAndKeepsItForLater() {
-  QVERIFY(FoldersOf(Cache()).isEmpty());  // nothing before the first question
-  help_->ShowTopic(213);
-  QCOMPARE(FoldersOf(Cache()).size(), 1);
-  const QString kept = Cache() + "/help/" + FoldersOf(Cache()).first() + "/tarnwick.qch";
-  const QDateTime time = QFileInfo(kept).lastModified();
-  QVERIFY(time.isValid());
-  help_ = std::make_unique<QtHelpViewer>(Files());
-  help_->ShowTopic(213);
-  QVERIFY(!Title().isEmpty());
-  QCOMPARE(FoldersOf(Cache()).size(), 1);
-  QCOMPARE(QFileInfo(kept).lastModified(), time);
-}
-
-void HelpWindowTest::worksWithoutAFolderToKeepThingsIn() {
-  folder_->File("no-folder", "a file stands in the way");
-  help_ = std::make_unique<QtHelpViewer>(HelpFiles{.CacheFolder = Cache() + "/no-folder"});
-  searchesTheText();
-}
-
-void HelpWindowTest::letsTwoProgramsReadAtOnce() {
-  QtHelpViewer other(Files());
-  other.ShowTopic(200);
-  QWidget* otherWindow = Window();
-  otherWindow->setObjectName("other");
-  searchesTheText();
-  QVERIFY(otherWindow->isVisible());
-  QCOMPARE(FoldersOf(Cache()).size(), 1);
-}
-
-void HelpWindowTest::mendsADamagedCopy() {
-  help_->ShowTopic(213);
-  help_.reset();
-  const QString folder = Cache() + "/help/" + FoldersOf(Cache()).first();
-  for (const char* name : {"/tarnwick.qch", "/tarnwick.qhc"}) {
-    QFile file(folder + name);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write("no manual");
-    file.close();
-    help_ = std::make_unique<QtHelpViewer>(Files());
-    searchesTheText();
-    help_.reset();
-  }
-}
-
-void HelpWindowTest::saysWhyThereIsNoManual() {
-  help_ = std::make_unique<QtHelpViewer>(HelpFiles{.Manual = Cache() + "/none", .CacheFolder = Cache()});
-  help_->ShowTopic(213);
-  QVERIFY(Window()->isVisible());
-  QVERIFY(Page()->toPlainText().startsWith("The manual cannot be opened."));
-  const QString why = Page()->toPlainText();
-  help_->ShowSearch();
-  help_->ShowContents();
-  help_->ShowSupport();
-  QCOMPARE(Page()->toPlainText(), why);
-  folder_->File("broken.qch", "no manual");
-  help_ =
-      std::make_unique<QtHelpViewer>(HelpFiles{.Manual = Cache() + "/broken.qch", .CacheFolder = Cache()});
-  help_->ShowTopic(213);
-  QVERIFY(Page()->toPlainText().startsWith("The manual cannot be opened."));
-}
-
-void HelpWindowTest::namesEveryControl() {
-  help_->ShowContents();
-  QSet<QString> names;
-  QSet<QString> spoken;
-  for (QWidget* control : Window()->findChildren<QWidget*>()) {
-    const QWidget* parent = control->parentWidget();
-    if (control->objectName().startsWith("qt_") || parent->inherits("QLineEdit") ||
-        parent->inherits("QTabBar")) {
-      continue;  // parts of a control
-    }
-    if (control->focusPolicy() == Qt::NoFocus && !qobject_cast<QToolButton*>(control)) continue;
-    const QString name = control->objectName();
-    QVERIFY2(!name.isEmpty(), control->metaObject()->className());
-    QVERIFY2(!names.contains(name), qPrintable(name));
-    names.insert(name);
-    if (qobject_cast<QTabWidget*>(control)) continue;  // its tabs have names
-    const QAccessibleInterface* said = QAccessible::queryAccessibleInterface(control);
-    QVERIFY2(said && !said->text(QAccessible::Name).isEmpty(), qPrintable(name));
-    QVERIFY2(!spoken.contains(said->text(QAccessible::Name)), qPrintable(name));
-    spoken.insert(said->text(QAccessible::Name));
-  }
-  QCOMPARE(spoken.size(), 6 + 3 + 7);  // tools; find bar; boxes, lists and the page
 }
 
 }  // namespace tarnwick

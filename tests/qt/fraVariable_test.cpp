@@ -1,108 +1,12 @@
-#include "window/fraVariable.h"
-
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTest>
-#include <QWheelEvent>
-#include <memory>
-
-#include "platform/qt/MeasureBox.h"
-#include "platform/qt/QtText.h"
-#include "qt/Controls.h"
-#include "support/Designs.h"
-#include "support/TestProgram.h"
-#include "variable/VariableCommands.h"
+#include "qt/BoundVariable.h"
 
 namespace tarnwick {
 namespace {
 
+using test::Bound;
+using test::Indexed;
 using test::Named;
-
-constexpr int Rows = VariableValues::Rows;
-
-QString Indexed(const char* name, int k) { return QString("%1(%2)").arg(name).arg(k); }
-
-/// Somebody who types the same into every dialog.
-class Typist final : public DialogHost {
- public:
-  void Run(ValueDialog& dialog) override {
-    Asked += ToQt(dialog.Title());
-    dialog.Type(Text);
-    dialog.PressOk();
-  }
-  void Run(YesNoDialog& dialog) override { dialog.PressCancel(); }
-
-  std::string Text;
-  QStringList Asked;
-};
-
-/// The panel with what is behind it, bound as the main window binds it.
-class Bound final : public MainView {
- public:
-  Bound() {
-    Process.Start();
-    Open(test::PlainDesign());
-    QObject::connect(&Panel, &fraVariable::EntryChosen, &Panel,
-                     [this](int entry) { Commands.ChooseEntry(entry); });
-    QObject::connect(&Panel, &fraVariable::PatternClicked, &Panel,
-                     [this](int index) { Commands.ClickPattern(index); });
-    QObject::connect(&Panel, &fraVariable::VarDepthTicked, &Panel,
-                     [this](bool on) { Commands.TickVarDepth(on); });
-    QObject::connect(&Panel, &fraVariable::PitchPressed, &Panel, [this](int k) { Commands.ClickPitch(k); });
-    QObject::connect(&Panel, &fraVariable::DepthPressed, &Panel, [this](int k) { Commands.ClickDepth(k); });
-    QObject::connect(&Panel, &fraVariable::ResetPressed, &Panel, [this] { Commands.PressVariableReset(); });
-    QObject::connect(&Panel, &fraVariable::Accepted, &Panel, [this] { Commands.PressVariableOk(); });
-    QObject::connect(&Panel, &fraVariable::Cancelled, &Panel, [this] { Commands.PressVariableCancel(); });
-    Panel.resize(Panel.width(), 640);
-    Panel.show();
-    if (!QTest::qWaitForWindowActive(&Panel)) qFatal("the panel does not come up");
-  }
-
-  void Open(const BandSaw& saw) {
-    Design().Saw = saw;
-    Design().Recalculate(Process.Say);
-    Design().KeepAsSaved();
-    Commands.OpenVariable();
-  }
-
-  void ShowPanel(tarnwick::Panel panel) override { Shown = panel; }
-  [[nodiscard]] tarnwick::Panel CurrentPanel() const override { return tarnwick::Panel::Main; }
-  void ShowSawInfo() override {}
-  void FillBoxes() override { Panel.Show(Commands.Values(), Design().Format()); }
-  void ShowUnits() override {}
-  void DrawSaw() override { ++Drawn; }
-  void ShowStatus(std::string_view, std::string_view) override {}
-
-  OpenDesign& Design() { return Process.Process.Design; }
-  const BandSaw::General& General() { return Design().Saw.GeneralInfo; }
-  QString TextOf(const char* box) { return Named<QLineEdit>(Panel, box)->text(); }
-  QString TextOf(const char* box, int k) { return Named<QLineEdit>(Panel, Indexed(box, k).toUtf8())->text(); }
-  MeasureBox* Box(const char* box, int k) { return Named<MeasureBox>(Panel, Indexed(box, k).toUtf8()); }
-  QRadioButton* Option(int index) {
-    return Named<QRadioButton>(Panel, Indexed("optPattern", index).toUtf8());
-  }
-  QComboBox* List() { return Named<QComboBox>(Panel, "cboPattern"); }
-  QCheckBox* Tick() { return Named<QCheckBox>(Panel, "chkVarDepth"); }
-
-  static void Click(QWidget* control) {
-    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
-  }
-
-  test::TestProgram Process;
-  Typist Host;
-  fraVariable Panel;
-  VariableCommands Commands{Process.Process, Host, *this};
-  tarnwick::Panel Shown = tarnwick::Panel::None;
-  int Drawn = 0;
-};
+using test::Rows;
 
 /// A segment of five teeth with depths, as the panel shows it.
 VariableValues FiveTeeth() {
@@ -157,15 +61,6 @@ class fraVariableTest : public QObject {
   void linesUp();
   void keepsItsButtonsInSight();
   void givesTheBoxesTheirShareOfTheWidth();
-
-  void makesABandVariable();
-  void takesAPitch();
-  void takesADepth();
-  void unticksItselfWithoutASegment();
-  void goesBackToNone();
-  void resets();
-  void isLeftByOkAndCancel();
-  void goesThroughPatternsByKeys();
 
  private:
   std::unique_ptr<fraVariable> panel_;
@@ -577,108 +472,6 @@ void fraVariableTest::givesTheBoxesTheirShareOfTheWidth() {
   panel_->SetWidth(least, 0);
   QTest::qWait(10);
   QCOMPARE(alone->width(), before);
-}
-
-// ---- with what is behind it
-
-void fraVariableTest::makesABandVariable() {
-  Bound bound;
-  QCOMPARE(bound.List()->currentText(), QString("3 Teeth"));
-  QVERIFY(bound.Option(0)->isChecked());
-  Bound::Click(bound.Option(1));
-  QCOMPARE(bound.Drawn, 1);
-  QCOMPARE(bound.General().NumVariables, std::int16_t{3});
-  QCOMPARE(bound.TextOf("txtToothSpace", 0), QString(" 2.226 in"));
-  QCOMPARE(bound.TextOf("txtToothSpace", 2), QString(" 1.782 in"));
-  bound.List()->setFocus();
-  QTest::keyClick(bound.List(), Qt::Key_Down);
-  QCOMPARE(bound.General().NumVariables, std::int16_t{4});
-  QCOMPARE(bound.TextOf("txtToothSpace", 3), QString(" 1.648 in"));
-  QCOMPARE(bound.TextOf("txtNumberOfSegments"), QString(" 30"));
-  QCOMPARE(bound.TextOf("txtSegmentSize"), QString(" 8.000 in"));
-}
-
-void fraVariableTest::takesAPitch() {
-  Bound bound;
-  bound.Host.Text = "9";
-  Bound::Click(bound.Box("txtToothSpace", 0));
-  QCOMPARE(bound.Host.Asked, QStringList("Tooth Space"));
-  QCOMPARE(bound.TextOf("txtToothSpace", 0), QString(" 2.600 in"));
-  QCOMPARE(bound.TextOf("txtToothSpace", 2), QString(" 1.400 in"));
-  Bound::Click(bound.Box("txtToothSpace", 2));
-  QTest::keyClick(bound.Box("txtToothSpace", 2), Qt::Key_Space);
-  QCOMPARE(bound.Host.Asked.size(), 1);  // that one is worked out
-  Bound::Click(bound.Box("txtToothSpace", 1));
-  QCOMPARE(bound.TextOf("txtToothSpace", 0), QString(" 2.000 in"));  // has given
-}
-
-void fraVariableTest::takesADepth() {
-  Bound bound;
-  bound.Host.Text = "0.8";
-  Bound::Click(bound.Box("txtToothDepth", 0));
-  QCOMPARE(bound.Host.Asked, QStringList());
-  Bound::Click(bound.Tick());
-  Bound::Click(bound.Box("txtToothDepth", 0));
-  QCOMPARE(bound.Host.Asked, QStringList("Gullet Depth"));
-  QCOMPARE(bound.TextOf("txtToothDepth", 0), QString(" 0.800 in"));
-  QCOMPARE(bound.General().VarDepth[0], 0.8);
-}
-
-void fraVariableTest::unticksItselfWithoutASegment() {
-  Bound bound;
-  bound.List()->setFocus();
-  QTest::keyClick(bound.List(), Qt::Key_Up);
-  QCOMPARE(bound.List()->currentText(), QString("None"));
-  Bound::Click(bound.Tick());
-  QVERIFY(!bound.Tick()->isChecked());
-  QTest::keyClick(bound.Tick(), Qt::Key_Space);
-  QVERIFY(!bound.Tick()->isChecked());
-}
-
-void fraVariableTest::goesBackToNone() {
-  Bound bound;
-  Bound::Click(bound.Option(3));
-  bound.List()->setFocus();
-  QTest::keyClick(bound.List(), Qt::Key_Up);
-  QVERIFY(bound.Option(0)->isChecked());
-  QVERIFY(!bound.Box("txtToothSpace", 0)->isVisible());
-  QCOMPARE(bound.General().VariablePitch, False);
-}
-
-void fraVariableTest::resets() {
-  Bound bound;
-  Bound::Click(bound.Option(2));
-  Bound::Click(bound.Tick());
-  Bound::Click(Named<QWidget>(bound.Panel, "cmdVariableReset"));
-  QVERIFY(bound.Option(0)->isChecked());
-  QVERIFY(!bound.Tick()->isChecked());
-  QCOMPARE(bound.List()->currentText(), QString("None"));
-  QCOMPARE(bound.General().VariablePitch, False);
-}
-
-void fraVariableTest::isLeftByOkAndCancel() {
-  Bound bound;
-  QCOMPARE(bound.Shown, Panel::Variable);
-  Bound::Click(bound.Option(2));
-  Bound::Click(Named<QWidget>(bound.Panel, "cmdVariableCancel"));
-  QCOMPARE(bound.Shown, Panel::Main);
-  QCOMPARE(bound.General().VariablePitch, False);
-  bound.Commands.OpenVariable();
-  QVERIFY(bound.Option(0)->isChecked());
-  Bound::Click(bound.Option(2));
-  Bound::Click(Named<QWidget>(bound.Panel, "cmdVariableOK"));
-  QCOMPARE(bound.Design().SawEdit.GeneralInfo.VariablePitch, True);
-}
-
-void fraVariableTest::goesThroughPatternsByKeys() {
-  Bound bound;
-  bound.Option(0)->setFocus();
-  QTest::keyClick(bound.Option(0), Qt::Key_Right);
-  QVERIFY(bound.Option(1)->isChecked());
-  QCOMPARE(bound.Design().Saw.DesignInfo.VarPattern, std::int16_t{LeftToRightPattern});
-  QTest::keyClick(bound.Option(1), Qt::Key_Down);
-  QVERIFY(bound.Option(3)->isChecked());
-  QCOMPARE(bound.TextOf("txtToothSpace", 1), QString(" 2.226 in"));
 }
 
 }  // namespace tarnwick
